@@ -1,0 +1,43 @@
+#include "handover.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <memory>
+#include <utility>
+
+namespace vorlindesk {
+
+HandOver::HandOver(QObject *parent)
+    : QObject(parent)
+{}
+
+HandOver::~HandOver() = default;
+
+void HandOver::post(std::function<void()> call)
+{
+    std::unique_ptr<QEvent> event;
+    {
+        const std::lock_guard lock(mMutex);
+        mCalls.push_back(std::move(call));
+        event =
+            std::make_unique<QEvent>(QEvent::User); // under the lock: its memory is freed on the other thread
+    }
+    QCoreApplication::postEvent(this, event.release());
+}
+
+/// One event runs one call, the oldest: so the order holds even when a call runs an event loop of its own.
+bool HandOver::event(QEvent *event)
+{
+    if (event->type() != QEvent::User)
+        return QObject::event(event);
+    std::function<void()> call;
+    {
+        const std::lock_guard lock(mMutex);
+        call = std::move(mCalls.front());
+        mCalls.pop_front();
+    }
+    call(); // may destroy this object
+    return true;
+}
+
+} // namespace vorlindesk
