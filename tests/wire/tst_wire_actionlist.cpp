@@ -1,0 +1,158 @@
+// Action lists of multi-action keys, both ways.
+#include "bytesofhex.h"
+#include "wire/actionlist.h"
+
+#include <QtTest>
+
+using ActionList::Action;
+using Actions = QVector<Action>;
+Q_DECLARE_METATYPE(Actions)
+
+namespace {
+
+QByteArray payload(const QByteArray &content)
+{
+    return content.leftJustified(128, '\0');
+}
+
+} // namespace
+
+class WireActionList : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void lists_data()
+    {
+        QTest::addColumn<Actions>("actions");
+        QTest::addColumn<QByteArray>("value");
+
+        QTest::newRow("no actions") << Actions{} << hex("00 00");
+        QTest::newRow("delay, low byte first") << Actions{{100, 0x0102, {}}} << hex("03 00 64 02 01");
+        QTest::newRow("media key") << Actions{{6, 0, {}}} << hex("03 00 06 00 00");
+        QTest::newRow("path in utf-8")
+            << Actions{{2, 0, QStringLiteral("/中")}} << hex("83 00 02 00 00") + payload(hex("2F E4 B8 AD"));
+        QTest::newRow("address, delay, text")
+            << Actions{{3, 0, QStringLiteral("http://a")}, {100, 10, {}}, {15, 0, QStringLiteral("A中")}}
+            << hex("09 01 03 00 00") + payload("http://a") + hex("64 0A 00 0F 00 00") +
+                   payload(hex("41 00 2D 4E"));
+        QTest::newRow("content of 128 bytes needs no NUL")
+            << Actions{{3, 0, QString(128, QLatin1Char('u'))}, {15, 0, QString(64, QLatin1Char('u'))}}
+            << hex("06 01 03 00 00") + QByteArray(128, 'u') + hex("0F 00 00") + hex("75 00").repeated(64);
+        QTest::newRow("empty text") << Actions{{15, 0, {}}} << hex("83 00 0F 00 00") + payload({});
+        QTest::newRow("combination") << Actions{{16, 0, QStringLiteral("Left Ctrl#C#undefine#undefine")}}
+                                     << hex("83 00 10 00 00") + payload(hex("E0 06 00 00"));
+    }
+
+    void lists()
+    {
+        QFETCH(Actions, actions);
+        QFETCH(QByteArray, value);
+        const ActionList::Encoded encoded = ActionList::encode(actions);
+        QCOMPARE(encoded.value, value);
+        QVERIFY(encoded.cutEntries.isEmpty());
+        QCOMPARE(encoded.omitted, 0);
+        QVERIFY(ActionList::decode(value) == actions);
+    }
+
+    void onlyADelayEntryCarriesADelay()
+    {
+        QCOMPARE(ActionList::encode({{6, 500, {}}}).value, hex("03 00 06 00 00"));
+        QVERIFY(ActionList::decode(hex("03 00 06 F4 01")) == (Actions{{6, 0, {}}}));
+    }
+
+    void emptyCombinationIsFourZeroCodes()
+    {
+        QCOMPARE(ActionList::encode({{16, 0, {}}}).value, hex("83 00 10 00 00") + payload({}));
+    }
+
+    void longContentIsCutAndReported_data()
+    {
+        QTest::addColumn<int>("functionId");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QByteArray>("content");
+
+        const QString pair = QStringLiteral("\U0001F600");
+        QTest::newRow("utf-8, one over") << 2 << QString(129, QLatin1Char('p')) << QByteArray(128, 'p');
+        QTest::newRow("utf-8, not half a character")
+            << 3 << QString(127, QLatin1Char('p')) + QStringLiteral("é") << QByteArray(127, 'p') + hex("00");
+        QTest::newRow("utf-16, one over") << 15 << QString(65, QLatin1Char('p')) << hex("70 00").repeated(64);
+        QTest::newRow("utf-16, not half a pair")
+            << 15 << QString(63, QLatin1Char('p')) + pair << hex("70 00").repeated(63) + hex("00 00");
+    }
+
+    void longContentIsCutAndReported()
+    {
+        QFETCH(int, functionId);
+        QFETCH(QString, text);
+        QFETCH(QByteArray, content);
+        const ActionList::Encoded encoded = ActionList::encode({{100, 1, {}}, {qint8(functionId), 0, text}});
+        QCOMPARE(encoded.cutEntries, QVector<int>{1});
+        QCOMPARE(encoded.value.mid(2 + 3 + 3), content);
+    }
+
+    void stepsBeyondTheLengthFieldAreCounted()
+    {
+        const Actions full(500, {2, 0, QStringLiteral("/a")}); // 500 × 131 = 65500 bytes: 35 are left
+        QCOMPARE(ActionList::encode(full).omitted, 0);
+        const ActionList::Encoded encoded = ActionList::encode(full + Actions(12, {5, 0, {}}));
+        QCOMPARE(encoded.omitted, 1);
+        QCOMPARE(encoded.value.left(2), hex("FD FF")); // 65533
+        QCOMPARE(encoded.value.size(), 2 + 65533);
+    }
+
+    void foreignLists_data()
+    {
+        QTest::addColumn<QByteArray>("value");
+        QTest::addColumn<Actions>("actions");
+
+        const QByteArray address = hex("03 00 00") + payload("u");
+        QTest::newRow("nothing") << QByteArray() << Actions{};
+        QTest::newRow("half a length field") << hex("05") << Actions{};
+        QTest::newRow("length 0, bytes behind") << hex("00 00 64 01 00") << Actions{};
+        QTest::newRow("bytes beyond the length do not count")
+            << hex("03 00 64 01 00 64 02 00") << Actions{{100, 1, {}}};
+        QTest::newRow("length beyond the bytes")
+            << hex("FF FF 64 01 00 06 00 00") << Actions{{100, 1, {}}, {6, 0, {}}};
+        QTest::newRow("payload one byte short, though the list is long enough")
+            << hex("05 01") + address + address.left(130) << Actions{{3, 0, QStringLiteral("u")}, {3, 0, {}}};
+        QTest::newRow("combination cut short stays empty")
+            << hex("07 00 10 00 00 E0 06 00 00") << Actions{{16, 0, {}}};
+        QTest::newRow("delay cut short: a missing byte reads 0")
+            << hex("02 00 64 05") << Actions{{100, 5, {}}};
+        QTest::newRow("code 0 is in the result, the walk goes on")
+            << hex("06 00 00 00 00 06 00 00") << Actions{{0, 0, {}}, {6, 0, {}}};
+        QTest::newRow("codes are signed") << hex("03 00 FF 00 00") << Actions{{-1, 0, {}}};
+        QTest::newRow("text ends at the first zero unit")
+            << hex("83 00 0F 00 00") + payload(hex("41 00 00 00 42 00"))
+            << Actions{{15, 0, QStringLiteral("A")}};
+        QTest::newRow("path ends at the first NUL")
+            << hex("83 00 02 00 00") + payload(hex("41 00 42")) << Actions{{2, 0, QStringLiteral("A")}};
+    }
+
+    void foreignLists()
+    {
+        QFETCH(QByteArray, value);
+        QFETCH(Actions, actions);
+        QVERIFY(ActionList::decode(value) == actions);
+    }
+
+    void countedBytes_data()
+    {
+        QTest::addColumn<QByteArray>("value");
+        QTest::addColumn<QByteArray>("counted");
+
+        QTest::newRow("no list") << hex("01") << QByteArray();
+        QTest::newRow("less than there is") << hex("01 00 AA BB") << hex("01 00 AA");
+        QTest::newRow("more than there is") << hex("05 00 AA BB") << hex("05 00 AA BB");
+    }
+
+    void countedBytes()
+    {
+        QFETCH(QByteArray, value);
+        QTEST(ActionList::counted(value), "counted");
+    }
+};
+
+QTEST_APPLESS_MAIN(WireActionList)
+#include "tst_wire_actionlist.moc"
