@@ -1,0 +1,69 @@
+/// Sleeping: never shorter than asked for, and close to it.
+#include "platform/timing.h"
+
+#include <QTest>
+#include <algorithm>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/time.h>
+#endif
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+class TestPlatformTiming : public QObject
+{
+    Q_OBJECT
+
+    static std::chrono::nanoseconds timeOf(std::chrono::nanoseconds duration)
+    {
+        const auto begin = Clock::now();
+        vorlindesk::preciseSleep(duration);
+        return Clock::now() - begin;
+    }
+
+private slots:
+    void sleepsAtLeastAndHardlyLonger_data()
+    {
+        QTest::addColumn<qint64>("microseconds");
+        QTest::newRow("nothing") << qint64{0};
+        QTest::newRow("negative") << qint64{-1000};
+        QTest::newRow("below the system's tick") << qint64{150};
+        QTest::newRow("pause between blocks") << qint64{2000};
+    }
+
+    void sleepsAtLeastAndHardlyLonger()
+    {
+        QFETCH(qint64, microseconds);
+        const std::chrono::nanoseconds asked = std::chrono::microseconds(microseconds);
+        vorlindesk::raiseTimerResolution();
+        auto best = std::chrono::nanoseconds::max();
+        for (int i = 0; i < 30; ++i) {
+            const auto taken = timeOf(asked);
+            QVERIFY(taken >= asked);
+            best = std::min(best, taken - std::max(asked, 0ns));
+        }
+        vorlindesk::restoreTimerResolution();
+        QVERIFY2(best < 500us, qPrintable(QString::number(best.count())));
+    }
+
+#ifdef Q_OS_UNIX
+    void signalsDoNotShortenIt()
+    {
+        struct sigaction action = {};
+        action.sa_handler = [](int) {
+        };
+        QCOMPARE(sigaction(SIGALRM, &action, nullptr), 0);
+        const itimerval everyMillisecond = {{0, 1000}, {0, 1000}};
+        QCOMPARE(setitimer(ITIMER_REAL, &everyMillisecond, nullptr), 0);
+        const auto taken = timeOf(20ms);
+        const itimerval off = {};
+        QCOMPARE(setitimer(ITIMER_REAL, &off, nullptr), 0);
+        QVERIFY(taken >= 20ms);
+    }
+#endif
+};
+
+QTEST_APPLESS_MAIN(TestPlatformTiming)
+#include "tst_platform_timing.moc"
