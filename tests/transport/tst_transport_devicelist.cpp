@@ -1,0 +1,76 @@
+#include "support/fakehid.h"
+#include "transport/hiddevicelist.h"
+
+#include <QtTest>
+
+using vorlindesk::HidDeviceEntry;
+
+/// Collections as "path" or "path usage page in hex", one per text.
+static QVector<HidDeviceEntry> listOf(const QStringList &texts)
+{
+    QVector<HidDeviceEntry> entries;
+    for (const QString &text : texts) {
+        HidDeviceEntry entry;
+        entry.path = text.section(QLatin1Char(' '), 0, 0).toStdString();
+        entry.usagePage = text.section(QLatin1Char(' '), 1, 1).toUInt(nullptr, 16);
+        entries << entry;
+    }
+    return entries;
+}
+
+class DeviceListTest : public QObject
+{
+    Q_OBJECT
+private slots:
+    void picksThePanel_data()
+    {
+        QTest::addColumn<QStringList>("listed");
+        QTest::addColumn<bool>("deviceNodes");
+        QTest::addColumn<QString>("picked");
+        const auto row = [](const char *name, const char *listed, bool deviceNodes, const char *picked) {
+            QTest::newRow(name) << QString::fromLatin1(listed).split(QLatin1Char('|'), Qt::SkipEmptyParts)
+                                << deviceNodes << QString::fromLatin1(picked);
+        };
+        row("nothing listed", "", true, "");
+        row("second collection", "\\\\?\\hid#a&Col01|\\\\?\\hid#a&Col02|\\\\?\\hid#a&Col03", false,
+            "\\\\?\\hid#a&Col02");
+        row("two panels: the first", "x#Col02#1|x#Col02#2", false, "x#Col02#1");
+        row("lower case does not count", "\\\\?\\hid#a&col02 ff00", false, "");
+        row("lower case does not count beside device nodes", "\\\\?\\hid#a&col02 ff00", true, "");
+        row("the name comes before every other rule", "/dev/hidraw1 ff00|/dev/hidraw1 ff00|/dev/x-Col02 1",
+            true, "/dev/x-Col02");
+        row("node listed twice", "/dev/hidraw0 1|/dev/hidraw3 c|/dev/hidraw3 1", true, "/dev/hidraw3");
+        row("node listed twice comes before a vendor page", "/dev/hidraw0 ff00|/dev/hidraw3 c|/dev/hidraw3 1",
+            true, "/dev/hidraw3");
+        row("first vendor page", "/dev/hidraw0 feff|/dev/hidraw1 ff00|/dev/hidraw2 ffab", true,
+            "/dev/hidraw1");
+        row("no vendor page", "/dev/hidraw0 1|/dev/hidraw1 feff", true, "");
+        row("other paths are no device nodes", "0001:0002:00 ff00|0001:0002:00 ff00", true, "");
+        row("device nodes are not looked at", "/dev/hidraw3 ff00|/dev/hidraw3 ff00", false, "");
+    }
+
+    void picksThePanel()
+    {
+        QFETCH(QStringList, listed);
+        QFETCH(bool, deviceNodes);
+        QFETCH(QString, picked);
+        QCOMPARE(QString::fromStdString(vorlindesk::pickPanelPath(listOf(listed), deviceNodes)), picked);
+    }
+
+    void freesTheListAndBearsMissingTexts()
+    {
+        renewFakeHid();
+        FakeCollection nameless{"/dev/hidraw7"};
+        nameless.nullTexts = true;
+        fakeHid().setCollections({nameless, {"/dev/hidraw8", 0xFF00, QStringLiteral("面板")}});
+        const QVector<HidDeviceEntry> entries = vorlindesk::listPanelCollections();
+        QCOMPARE(entries.size(), 2);
+        QCOMPARE(entries.at(0).product, QString());
+        QCOMPARE(entries.at(1).product, QStringLiteral("面板"));
+        QCOMPARE(entries.at(1).usagePage, 0xFF00U);
+        QCOMPARE(fakeHid().openListings(), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(DeviceListTest)
+#include "tst_transport_devicelist.moc"
