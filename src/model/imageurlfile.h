@@ -1,0 +1,17 @@
+/// "devConfig/image/imageUrl.ini": every record of the store, so that it survives a restart.
+#pragma once
+
+namespace vorlinmodel {
+
+class IFunctionManager;
+
+/// Writes every record of @p store, and puts each custom picture into the image folder under its key's name;
+/// a picture that lay elsewhere is set in the store under its new path. The file is replaced whole.
+/// @return false when a picture or the file could not be written (logged); the rest is written all the same.
+bool saveAllKeyData(IFunctionManager &store);
+
+/// Creates the records of the file in @p store; keys that have one already keep theirs. Groups that name no
+/// key of the panel are logged and skipped. @return false when the file is there but cannot be read.
+bool loadAllKeyData(IFunctionManager &store);
+
+} // namespace vorlinmodel

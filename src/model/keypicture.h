@@ -1,0 +1,27 @@
+/// Key pictures as the panel takes them.
+#pragma once
+
+#include "model/keyid.h"
+
+#include <QByteArray>
+#include <QImage>
+#include <QSize>
+#include <optional>
+
+namespace vorlinmodel {
+
+class IFunctionManager;
+
+constexpr int PhysicalKeyWidth = 90; ///< pixels of one LCD
+constexpr int PhysicalKeyHeight = 84;
+
+/// Pixels of a key: 90 x 84, or columns x 90 by rows x 84 for a merged key of a custom layout.
+QSize keyPixelSize(const key_id_t &key);
+
+/// The key's display image (files and resources) as PNG at keyPixelSize(); nothing when there is no picture.
+std::optional<QByteArray> encodedKeyPicture(const IFunctionManager &store, const key_id_t &key);
+
+/// Decodes a picture from foreign bytes, with limits: at most 4096 x 4096 pixels. Null when it is none.
+QImage decodePicture(const QByteArray &bytes);
+
+} // namespace vorlinmodel

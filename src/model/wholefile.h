@@ -1,0 +1,21 @@
+/// Files read and replaced as a whole.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <optional>
+
+namespace vorlinmodel {
+
+/// Far above every file of ours; a foreign one beyond it would take the memory of the computer.
+constexpr qint64 MaxWholeFile = qint64{256} * 1024 * 1024; // bytes
+
+/// @return the content of @p path, or nothing with the reason in @p error when it cannot be read to its end
+/// or is larger than @p limit bytes.
+std::optional<QByteArray> readWholeFile(const QString &path, QString &error, qint64 limit = MaxWholeFile);
+
+/// Replaces @p path by @p bytes in one step: a crash or a full disk leaves the old file. @return false with
+/// the reason in @p error.
+bool writeWholeFile(const QString &path, const QByteArray &bytes, QString &error);
+
+} // namespace vorlinmodel

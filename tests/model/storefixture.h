@@ -1,0 +1,108 @@
+/// What the tests of the key attribute store share.
+#pragma once
+
+#include "base/log.h"
+#include "platform/desktop.h"
+
+#include <QBuffer>
+#include <QColor>
+#include <QDir>
+#include <QImage>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <mutex>
+
+/// A fresh data folder as the current directory, and the log lines that are written while it lives.
+class StoreFixture
+{
+public:
+    StoreFixture()
+    {
+        QDir::setCurrent(mFolder.path());
+        vorlindesk::setLogSink([this](vorlindesk::LogLevel level, const QString &text) {
+            const std::lock_guard lock(mMutex);
+            mLines.append(QString::number(int(level)) + QLatin1Char(' ') + text);
+        });
+    }
+
+    ~StoreFixture()
+    {
+        vorlindesk::setLogSink({});
+        QDir::setCurrent(mBefore);
+    }
+
+    /// The lines since the last call, each led by its level.
+    QStringList takeLines()
+    {
+        const std::lock_guard lock(mMutex);
+        return std::exchange(mLines, {});
+    }
+
+    /// The same, without those at debug level.
+    QStringList takeCalmLines()
+    {
+        QStringList lines = takeLines();
+        lines.erase(std::remove_if(lines.begin(), lines.end(),
+                                   [](const QString &line) { return line.startsWith(QLatin1Char('4')); }),
+                    lines.end());
+        return lines;
+    }
+
+    QString path(const char *name) const
+    {
+        return QDir::currentPath() + QLatin1Char('/') + QLatin1String(name);
+    }
+
+private:
+    QString mBefore = QDir::currentPath();
+    QTemporaryDir mFolder;
+    std::mutex mMutex;
+    QStringList mLines;
+};
+
+inline QString u(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+inline const quint8 *data(const QByteArray &bytes)
+{
+    return reinterpret_cast<const quint8 *>(bytes.constData());
+}
+
+/// A picture of one colour in an image format.
+inline QByteArray picture(const QSize &size, const QColor &colour, const char *format = "PNG")
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(colour);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, format);
+    return bytes;
+}
+
+/// Writes down what it is asked for, and opens nothing: lists in tests may come from random bytes.
+class RecordingDesktop : public vorlindesk::IDesktop
+{
+public:
+    bool openUrl(const QUrl &url) override
+    {
+        asked << u("url ") + url.toString();
+        return works;
+    }
+    bool openFile(const QString &path) override
+    {
+        asked << u("file ") + path;
+        return works;
+    }
+    void setClipboardText(const QString &) override { asked << u("clipboard"); }
+    bool pressPaste() override
+    {
+        asked << u("paste");
+        return works;
+    }
+
+    bool works = true;
+    QStringList asked; ///< texts to be typed too, in order with the others
+};

@@ -1,0 +1,121 @@
+/// Several threads on one store: what each sees is a whole record. The thread checker runs this too.
+#include "model/functionmanager.h"
+#include "storefixture.h"
+
+#include <QtTest>
+#include <thread>
+
+using namespace vorlinmodel;
+
+class StoreRaceTest : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init()
+    {
+        mpFixture = std::make_unique<StoreFixture>();
+        vorlindesk::setLogSink([](vorlindesk::LogLevel, const QString &) {}); // tens of thousands of lines
+    }
+    void cleanup() { mpFixture.reset(); }
+
+    void readersSeeWholeRecords()
+    {
+        constexpr key_id_t Key{1, 2, 3};
+        FunctionManager store;
+        store.setRecordPause(0);
+        // Two pages that differ in every field of the key; a reader may see one of them, a fresh record, or
+        // none.
+        const auto page = [](char fid, char text) {
+            QByteArray bytes(274, '\0');
+            bytes.replace(0, 5, QByteArray::fromHex("0102010203"));
+            bytes[7] = fid;
+            bytes[12] = fid; // font size
+            bytes[16] = 1;
+            bytes[17] = text;
+            bytes[145] = 1;
+            bytes[146] = text;
+            return bytes;
+        };
+        std::atomic<bool> done = false;
+        std::atomic<int> torn = 0;
+        std::atomic<int> seen = 0;
+        const auto load = [&](char fid, char text) {
+            const QByteArray bytes = page(fid, text);
+            for (int i = 0; i < 300; ++i)
+                store.saveAllKeyAttrByDevconfig(data(bytes), bytes.size());
+        };
+        const auto read = [&] {
+            while (!done) {
+                const auto record = store.getKeyAttribute(Key);
+                if (!record || record->titleFontSize == 16)
+                    continue;
+                ++seen;
+                const QString text = record->titleFontSize == 5 ? QStringLiteral("a") : QStringLiteral("b");
+                if (record->strTitle != text || record->strAppOrUrl != text)
+                    ++torn;
+            }
+        };
+        std::thread reader(read);
+        std::thread writer(load, char(5), 'a');
+        load(6, 'b');
+        writer.join();
+        while (seen == 0)
+            std::this_thread::yield(); // the last record stands, so that the reader meets it at the latest
+                                       // now
+        done = true;
+        reader.join();
+        QCOMPARE(torn.load(), 0);
+    }
+
+    void everyOperationFromEveryThread()
+    {
+        FunctionManager store;
+        QVERIFY(store.Init());
+        const auto work = [&store](int seed) {
+            for (int i = 0; i < 200; ++i) {
+                const key_id_t key{1, 1, 1 + (i + seed) % 15};
+                store.addKeyAttribute(key, 15);
+                store.setTitle(key, QString::number(i));
+                store.setCustomImage(key, QString::number(i));
+                store.getDisplayImage(key);
+                store.getAllAttribute(key);
+                store.getKeys();
+                store.setModeFlag(i % 2 == 0);
+                store.setExportDirectory(store.getExportDirectory() + QLatin1Char('x'));
+                store.setTextOutput([](int, const QString &) {});
+                store.execCommand(key, 15, QString::number(i));
+                store.deleteKeyAttribute(key);
+            }
+        };
+        std::vector<std::thread> threads;
+        for (int seed = 0; seed < 4; ++seed)
+            threads.emplace_back(work, seed);
+        for (std::thread &thread : threads)
+            thread.join();
+        QVERIFY(store.getKeys().isEmpty()); // every thread removed the last that it made
+    }
+
+    void everyPictureIsCountedOnce()
+    {
+        FunctionManager store;
+        QVERIFY(store.Init());
+        store.setRecvTotalKeyCount(400);
+        const QByteArray broken = QByteArray::fromHex("0102030900");
+        const auto take = [&] {
+            for (int i = 0; i < 100; ++i)
+                store.saveKeyAttrByDevconfig(data(broken), broken.size());
+        };
+        std::vector<std::thread> threads;
+        for (int i = 0; i < 4; ++i)
+            threads.emplace_back(take);
+        for (std::thread &thread : threads)
+            thread.join();
+        QCOMPARE(store.getReceivedCounts().current, 400);
+    }
+
+private:
+    std::unique_ptr<StoreFixture> mpFixture;
+};
+
+QTEST_GUILESS_MAIN(StoreRaceTest)
+#include "tst_model_storerace.moc"

@@ -1,0 +1,164 @@
+/// Dated script folders, and the settings files on their way out and back.
+#include "fileutil.h"
+#include "model/configbackup.h"
+#include "model/scriptcontainer.h"
+#include "model/scriptformat.h"
+#include "storefixture.h"
+
+#include <QTest>
+#include <memory>
+
+using namespace vorlinmodel;
+
+namespace {
+const QDateTime Moment(QDate(2026, 11, 21), QTime(9, 5, 7));
+}
+
+class TestFilesBackup : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<StoreFixture> mpFixture;
+
+    QString path(const char *name) const { return mpFixture->path(name); }
+
+    void fill(const char *folder, const QByteArray &mark) const
+    {
+        for (const char *name : {"customLayout.ini", "multiActions.json", "system.ini"})
+            QVERIFY(writeTestFile(path(folder) + QLatin1Char('/') + u(name), mark + name));
+    }
+
+private slots:
+    void init() { mpFixture = std::make_unique<StoreFixture>(); }
+    void cleanup() { mpFixture.reset(); }
+
+    void folderOfAnExport_data()
+    {
+        QTest::addColumn<QString>("directory");
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("plain") << u("/e/out") << u("/e/out/script_20261121_090507");
+        QTest::newRow("an earlier export")
+            << u("/e/script_20250102_030405") << u("/e/script_20261121_090507");
+        QTest::newRow("inside an earlier export")
+            << u("/e/script_20250102_030405/deeper") << u("/e/script_20261121_090507");
+        QTest::newRow("a folder that only sounds like one")
+            << u("/e/script_files") << u("/e/script_files/script_20261121_090507");
+    }
+
+    void folderOfAnExport()
+    {
+        QFETCH(QString, directory);
+        QFETCH(QString, folder);
+        QCOMPARE(ConfigBackup::scriptFolder(directory, Moment), folder);
+    }
+
+    void withoutAnExportDirectory()
+    {
+        QVERIFY(ConfigBackup::writeScript({}, "abc", Moment));
+        QCOMPARE(testFileContent(path("devConfig/script_20261121_090507/CD.bin")), QByteArray("abc"));
+    }
+
+    void twoExportsInOneSecond()
+    {
+        const QString out = path("new/out");
+        QVERIFY(ConfigBackup::writeScript(out, "a longer first one", Moment));
+        const QString file = out + u("/script_20261121_090507/CD.bin");
+        QCOMPARE(mpFixture->takeLines(), QStringList{u("1 -strFileName[") + file + u("]")});
+        QVERIFY(ConfigBackup::writeScript(out, "second", Moment));
+        QCOMPARE(testFileContent(file), QByteArray("second"));
+        QCOMPARE(QDir(out).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
+        QCOMPARE(currentScript(), QByteArray("second"));
+    }
+
+    void anExportThatCannotBeWritten()
+    {
+        setCurrentScript("before");
+        QVERIFY(writeTestFile(path("file"), "in the way"));
+        QVERIFY(!ConfigBackup::writeScript(path("file"), "abc", Moment));
+        QVERIFY(mpFixture->takeLines().contains(u("3 Failed to open file for writing!")));
+        QCOMPARE(currentScript(), QByteArray("before"));
+    }
+
+    void readingAScript()
+    {
+        const QString folder = path("s");
+        const QString file = folder + u("/CD.bin");
+        QVERIFY(!ConfigBackup::readScript(folder));
+        QCOMPARE(mpFixture->takeLines(), QStringList{u("3 ScriptDir[") + folder + u("] no exists")});
+        QDir().mkpath(folder);
+        QVERIFY(!ConfigBackup::readScript(folder));
+        QCOMPARE(mpFixture->takeLines(), QStringList{u("3 ScriptBin[") + file + u("] open failed")});
+
+        Script script;
+        script.pages = {{3, 2, {}}};
+        const QByteArray bytes = encodeScript(script);
+        QVERIFY(writeTestFile(file, bytes));
+        QCOMPARE(ConfigBackup::readScript(folder).value(), bytes);
+        QCOMPARE(mpFixture->takeLines(),
+                 QStringList({u("1 open ") + file + u(" ok size:44"), u("1 nlayoutId[3]-npageId[2]-")}));
+        QCOMPARE(currentScript(), bytes);
+        QVERIFY(writeTestFile(file, "foreign"));
+        QCOMPARE(ConfigBackup::readScript(folder).value(), QByteArray("foreign"));
+        QCOMPARE(mpFixture->takeLines().last(), u("1 nlayoutId[-1]-npageId[-1]-"));
+    }
+
+    void backupGoesOnAfterAFailure()
+    {
+        fill("devConfig", "new ");
+        QVERIFY(QFile::remove(path("devConfig/customLayout.ini")));
+        QVERIFY(writeTestFile(path("out/system.ini"), "of an older backup"));
+        QVERIFY(!ConfigBackup::backupSettingsFiles(path("out")));
+        QCOMPARE(mpFixture->takeLines(),
+                 QStringList{u("3 Failed to backup  [") + path("out/customLayout.ini") + u("]!")});
+        QCOMPARE(testFileContent(path("out/multiActions.json")), QByteArray("new multiActions.json"));
+        QCOMPARE(testFileContent(path("out/system.ini")), QByteArray("new system.ini"));
+    }
+
+    void restoreReplacesWhatStandsInTheWay()
+    {
+        fill("in", "saved ");
+        fill("devConfig", "old ");
+        QVERIFY(
+            QFile::setPermissions(path("devConfig/customLayout.ini"), QFile::ReadOwner | QFile::ReadUser));
+        // A folder can neither be replaced nor removed, so it is moved aside, in place of an older one.
+        QVERIFY(QFile::remove(path("devConfig/multiActions.json")));
+        QVERIFY(writeTestFile(path("devConfig/multiActions.json/inner"), "x"));
+        QVERIFY(writeTestFile(path("devConfig/multiActions.json.del"), "older"));
+        QVERIFY(ConfigBackup::restoreSettingsFiles(path("in")));
+        QCOMPARE(mpFixture->takeLines(), QStringList());
+        for (const char *name : {"customLayout.ini", "multiActions.json", "system.ini"})
+            QCOMPARE(testFileContent(path("devConfig/") + u(name)), QByteArray("saved ") + name);
+        QCOMPARE(testFileContent(path("devConfig/multiActions.json.del/inner")), QByteArray("x"));
+        QVERIFY(QFileInfo(path("devConfig/customLayout.ini")).isWritable());
+    }
+
+    void restoreGoesOnAfterAFailure()
+    {
+        fill("in", "saved ");
+        fill("devConfig", "old ");
+        QVERIFY(QFile::remove(path("in/customLayout.ini")));
+        QVERIFY(QFile::remove(path("devConfig/multiActions.json")));
+        QVERIFY(writeTestFile(path("devConfig/multiActions.json/inner"), "x"));
+        QVERIFY(writeTestFile(path("devConfig/multiActions.json.del/inner"), "y"));
+        QVERIFY(!ConfigBackup::restoreSettingsFiles(path("in")));
+        QCOMPARE(mpFixture->takeLines(),
+                 QStringList({u("3 Failed to restore  [") + path("devConfig/customLayout.ini") + u("]!"),
+                              u("3 Failed to delete  [") + path("devConfig/multiActions.json") + u("]!"),
+                              u("3 Failed to restore  [") + path("devConfig/multiActions.json") + u("]!")}));
+        QCOMPARE(testFileContent(path("devConfig/customLayout.ini")), QByteArray("old customLayout.ini"));
+        QCOMPARE(testFileContent(path("devConfig/system.ini")), QByteArray("saved system.ini"));
+    }
+
+    void safeDelete()
+    {
+        QVERIFY(ConfigBackup::safeDelete(path("nothing")));
+        QVERIFY(writeTestFile(path("file"), "x"));
+        QVERIFY(QFile::setPermissions(path("file"), QFile::ReadOwner | QFile::ReadUser));
+        QVERIFY(ConfigBackup::safeDelete(path("file")));
+        QVERIFY(!QFile::exists(path("file")));
+        QVERIFY(!QFile::exists(path("file.del")));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestFilesBackup)
+#include "tst_files_backup.moc"
