@@ -1,0 +1,49 @@
+/// A virtual panel in a process of its own, driven by its line protocol.
+#pragma once
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QProcess>
+#include <QStringList>
+
+class PanelProcess
+{
+public:
+    /// Starts the panel and points this process's drop-in library at it. @return whether it runs.
+    bool start(const QStringList &arguments = {})
+    {
+        const QDir folder(QCoreApplication::applicationDirPath());
+        mProcess.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        mProcess.start(
+            folder.filePath(QStringLiteral(PANEL_PROGRAM)),
+            QStringList{QStringLiteral("--headless"), QStringLiteral("--port"), QStringLiteral("0")} +
+                arguments);
+        const QByteArray line = readLine();
+        qputenv("VIRTUAL_PANEL_PORT", line.mid(5));
+        return line.startsWith("port ");
+    }
+
+    /// @return the panel's answer to @p command.
+    QByteArray ask(const QByteArray &command)
+    {
+        mProcess.write(command + '\n');
+        return readLine();
+    }
+
+    ~PanelProcess()
+    {
+        mProcess.closeWriteChannel(); // ends the panel
+        if (!mProcess.waitForFinished())
+            mProcess.kill();
+    }
+
+private:
+    QByteArray readLine()
+    {
+        while (!mProcess.canReadLine() && mProcess.waitForReadyRead(10000)) {
+        }
+        return mProcess.readLine().trimmed();
+    }
+
+    QProcess mProcess;
+};

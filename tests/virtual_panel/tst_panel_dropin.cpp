@@ -1,0 +1,257 @@
+// The drop-in hidapi against the real panel program.
+#include "panelbytes.h"
+#include "panelprocess.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtTest>
+#include <hidapi.h>
+#include <memory>
+
+namespace {
+
+constexpr unsigned short VendorId = 0x4869;
+constexpr unsigned short ProductId = 0x1234;
+constexpr int Patience = 5000; // ms
+
+using Device = std::unique_ptr<hid_device, decltype(&hid_close)>;
+
+Device openPanel(const char *path = "/dev/hidraw7")
+{
+    return {hid_open_path(path), &hid_close};
+}
+
+int write(const Device &device, const QByteArray &bytes)
+{
+    return hid_write(device.get(), reinterpret_cast<const unsigned char *>(bytes.constData()),
+                     static_cast<size_t>(bytes.size()));
+}
+
+/// The next report; empty for a time-out.
+QByteArray read(const Device &device, int milliseconds = Patience)
+{
+    QByteArray bytes(64, '\0');
+    const int count = hid_read_timeout(device.get(), reinterpret_cast<unsigned char *>(bytes.data()),
+                                       static_cast<size_t>(bytes.size()), milliseconds);
+    return count > 0 ? bytes.left(count) : QByteArray();
+}
+
+int readResult(const Device &device, int milliseconds = Patience)
+{
+    unsigned char bytes[64];
+    return hid_read_timeout(device.get(), bytes, sizeof bytes, milliseconds);
+}
+
+QStringList listedPaths()
+{
+    QStringList paths;
+    hid_device_info *devices = hid_enumerate(VendorId, ProductId);
+    for (const hid_device_info *device = devices; device != nullptr; device = device->next)
+        paths << QString::fromLatin1(device->path);
+    hid_free_enumeration(devices);
+    return paths;
+}
+
+QJsonObject object(const QByteArray &json)
+{
+    return QJsonDocument::fromJson(json).object();
+}
+
+} // namespace
+
+class TestPanelDropin : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void noPanelProgram()
+    {
+        qputenv("VIRTUAL_PANEL_PORT", "1"); // nobody listens there
+        QElapsedTimer clock;
+        clock.start();
+        QCOMPARE(hid_init(), 0);
+        QVERIFY(hid_enumerate(0, 0) == nullptr);
+        QVERIFY(!openPanel());
+        QVERIFY2(clock.elapsed() < 1000, qPrintable(QString::number(clock.elapsed())));
+        QCOMPARE(hid_exit(), 0);
+    }
+
+    void listInTheFormOfLinux()
+    {
+        PanelProcess panel;
+        QVERIFY(panel.start({QStringLiteral("--paths"), QStringLiteral("linux")}));
+        hid_device_info *devices = hid_enumerate(VendorId, ProductId);
+        QVERIFY(devices != nullptr && devices->next != nullptr);
+        QCOMPARE(int(devices->vendor_id), 0x4869);
+        QCOMPARE(int(devices->product_id), 0x1234);
+        QVERIFY(devices->usage_page < 0xFF00);
+        QVERIFY(devices->next->usage_page >= 0xFF00);
+        QCOMPARE(QString::fromWCharArray(devices->product_string), QStringLiteral("Key panel"));
+        hid_free_enumeration(devices);
+        QCOMPARE(listedPaths(), QStringList(QVector<QString>(3, QStringLiteral("/dev/hidraw7")).toList()));
+        QVERIFY(hid_enumerate(VendorId, 1) == nullptr);
+        QVERIFY(!openPanel("/dev/hidraw8"));
+    }
+
+    void listInTheFormOfWindows()
+    {
+        PanelProcess panel;
+        QVERIFY(panel.start({QStringLiteral("--paths"), QStringLiteral("windows")}));
+        const QStringList paths = listedPaths();
+        QCOMPARE(paths.size(), 3);
+        QVERIFY(paths.at(0).contains(QStringLiteral("VID_4869&PID_1234&Col01#")));
+        QVERIFY(paths.at(1).contains(QStringLiteral("VID_4869&PID_1234&Col02#")));
+        QVERIFY(!openPanel(paths.at(0).toLatin1().constData()));
+        QVERIFY(openPanel(paths.at(1).toLatin1().constData()));
+    }
+
+    void requestAndReply()
+    {
+        PanelProcess panel;
+        QVERIFY(panel.start({QStringLiteral("--paths"), QStringLiteral("linux")}));
+        const Device device = openPanel();
+        QVERIFY(device);
+        QCOMPARE(readResult(device, 0), 0);
+        QCOMPARE(write(device, whole("04")), 64);
+        QCOMPARE(read(device).mid(4), report("00000000"
+                                             "1100"
+                                             "040c000000"
+                                             "5049432d535720332e342e31")
+                                          .mid(4));
+        // A written report has reached the panel when the write returns.
+        QCOMPARE(write(device, whole("0702000000"
+                                     "0103")),
+                 64);
+        QCOMPARE(object(panel.ask("state")).value(QStringLiteral("page")).toInt(), 3);
+        QVERIFY(panel.ask("press 7").startsWith("ok"));
+        QCOMPARE(read(device).mid(4), report("00000000"
+                                             "0900"
+                                             "0104000000"
+                                             "01030700")
+                                          .mid(4));
+        QCOMPARE(panel.ask("violations"), QByteArray("[]"));
+    }
+
+    void wrongReportIsListed()
+    {
+        PanelProcess panel;
+        QVERIFY(panel.start({QStringLiteral("--paths"), QStringLiteral("linux")}));
+        const Device device = openPanel();
+        QCOMPARE(write(device, QByteArray(10, '\3')), 10);
+        QVERIFY(panel.ask("violations").contains("10 bytes instead of 64"));
+        QCOMPARE(panel.ask("clear"), QByteArray("ok"));
+        QCOMPARE(panel.ask("violations"), QByteArray("[]"));
+    }
+
+    /// Back to back, without the pause of 2 ms that the host owes a picture.
+    void missingPauseIsListed()
+    {
+        PanelProcess panel;
+        QVERIFY(panel.start({QStringLiteral("--paths"), QStringLiteral("linux"),
+                             QStringLiteral("--block-pause-us"), QStringLiteral("60000000")}));
+        const Device device = openPanel();
+        for (const QByteArray &block : blocks(attribute("01010309", picture(pngFile(90, 84)))))
+            QCOMPARE(write(device, block), 64);
+        QVERIFY(panel.ask("violations").contains("us after the block before"));
+    }
+
+    void unplugging()
+    {
+        PanelProcess panel;
+        QVERIFY(panel.start({QStringLiteral("--paths"), QStringLiteral("linux")}));
+        const Device device = openPanel();
+        QVERIFY(device);
+        QCOMPARE(panel.ask("unplug"), QByteArray("ok"));
+        QCOMPARE(readResult(device), -1);
+        QCOMPARE(write(device, whole("04")), -1);
+        QVERIFY(listedPaths().isEmpty());
+        QVERIFY(!openPanel());
+        QCOMPARE(panel.ask("plug"), QByteArray("ok"));
+        const Device again = openPanel();
+        QCOMPARE(write(again, whole("04")), 64);
+        QVERIFY(!read(again).isEmpty());
+    }
+
+    void unplugInTheMiddle()
+    {
+        PanelProcess panel;
+        QVERIFY(panel.start({QStringLiteral("--paths"), QStringLiteral("linux")}));
+        QCOMPARE(panel.ask("fault unplug-after 2"), QByteArray("ok"));
+        const Device device = openPanel();
+        QCOMPARE(write(device, whole("04")), 64);
+        write(device, whole("04"));
+        QTRY_COMPARE(write(device, whole("04")), -1);
+        QCOMPARE(object(panel.ask("state")).value(QStringLiteral("plugged")).toBool(), false);
+    }
+
+    /// The panel goes away for a second after good firmware, and comes back by itself.
+    void restartAfterUpgrade()
+    {
+        PanelProcess panel;
+        QVERIFY(panel.start({QStringLiteral("--paths"), QStringLiteral("linux")}));
+        const Device device = openPanel();
+        write(device, whole("0601000000"
+                            "01"));
+        write(device, whole("0601000000"
+                            "06"));
+        write(device, hostReport(2, QByteArray::fromHex("0602000000"
+                                                        "0341")));
+        for (int i = 0; i < 3; ++i)
+            QVERIFY(!read(device).isEmpty());
+        write(device, whole("0602000000"
+                            "0500"));
+        QTRY_COMPARE(readResult(device), -1);
+        QVERIFY(listedPaths().isEmpty());
+        QTRY_VERIFY(!listedPaths().isEmpty());
+        QCOMPARE(panel.ask("violations"), QByteArray("[]"));
+    }
+
+    /// Nobody reads: 63 reports are kept, the newer ones dropped and told to the panel.
+    void ringOverflow()
+    {
+        PanelProcess panel;
+        QVERIFY(panel.start({QStringLiteral("--paths"), QStringLiteral("linux"),
+                             QStringLiteral("--report-interval-us"), QStringLiteral("0"),
+                             QStringLiteral("--empty")}));
+        const Device device = openPanel();
+        constexpr int ring = 63;
+        for (int key = 0; key < ring + 2; ++key)
+            panel.ask("press " + QByteArray::number(key % 15 + 1));
+        QTRY_VERIFY(QJsonDocument::fromJson(panel.ask("violations")).array().size() == 2);
+        for (int i = 0; i < ring; ++i)
+            QCOMPARE(int(read(device).at(13)), i % 15 + 1);
+        QCOMPARE(readResult(device, 0), 0);
+    }
+
+    /// A whole read-back at full speed, read as it comes: nothing is lost.
+    void readBack()
+    {
+        PanelProcess panel;
+        QVERIFY(panel.start({QStringLiteral("--paths"), QStringLiteral("linux"),
+                             QStringLiteral("--report-interval-us"), QStringLiteral("500")}));
+        const Device device = openPanel();
+        QCOMPARE(write(device, whole("08")), 64);
+        int reports = 0;
+        while (!read(device, 500).isEmpty())
+            ++reports;
+        QCOMPARE(panel.ask("wait-idle 1"), QByteArray("ok"));
+        QVERIFY(reports > 100);
+        QCOMPARE(object(panel.ask("sent")).value(QStringLiteral("reports")).toInt(), reports);
+        QCOMPARE(panel.ask("violations"), QByteArray("[]"));
+    }
+
+    void panelProgramEnds()
+    {
+        auto panel = std::make_unique<PanelProcess>();
+        QVERIFY(panel->start({QStringLiteral("--paths"), QStringLiteral("linux")}));
+        const Device device = openPanel();
+        QVERIFY(device);
+        panel.reset();
+        QCOMPARE(readResult(device), -1);
+        QVERIFY(listedPaths().isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestPanelDropin)
+#include "tst_panel_dropin.moc"

@@ -1,0 +1,106 @@
+// The face of a key, as the panel and the editor draw it.
+#include "model/keyface.h"
+
+#include <QtTest>
+
+using namespace vorlinmodel;
+
+class TestPanelKeyface : public QObject
+{
+    Q_OBJECT
+
+    /// Left half red, right half blue.
+    static QImage halves()
+    {
+        QImage image(90, 84, QImage::Format_RGB32);
+        for (int y = 0; y < 84; ++y)
+            for (int x = 0; x < 90; ++x)
+                image.setPixelColor(x, y, x < 45 ? Qt::red : Qt::blue);
+        return image;
+    }
+
+    /// Rows with pixels of the title's pure green, as (first, last).
+    static QPair<int, int> titleRows(const QImage &face)
+    {
+        QPair<int, int> rows{-1, -1};
+        for (int y = 0; y < face.height(); ++y)
+            for (int x = 0; x < face.width(); ++x)
+                if (face.pixelColor(x, y).green() > 200) {
+                    rows.first = rows.first < 0 ? y : rows.first;
+                    rows.second = y;
+                }
+        return rows;
+    }
+
+private slots:
+    void pictureFillsTheKey_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("one key") << QSize(90, 84);
+        QTest::newRow("merged key") << QSize(180, 168);
+    }
+
+    void pictureFillsTheKey()
+    {
+        QFETCH(QSize, size);
+        KeyFace face;
+        face.picture = halves();
+        const QImage drawn = renderKeyFace(face, size);
+        QCOMPARE(drawn.size(), size);
+        QCOMPARE(drawn.pixelColor(2, 2), QColor(Qt::red));
+        QCOMPARE(drawn.pixelColor(size.width() - 3, size.height() - 3), QColor(Qt::blue));
+    }
+
+    void titleStandsWhereItsAlignmentSays_data()
+    {
+        QTest::addColumn<int>("alignment");
+        QTest::addColumn<int>("highest");
+        QTest::addColumn<int>("lowest");
+        QTest::newRow("bottom") << int(AlignBottom) << 55 << 83;
+        QTest::newRow("centre") << int(AlignCenter) << 26 << 58;
+        QTest::newRow("top") << int(AlignTop) << 0 << 30;
+    }
+
+    void titleStandsWhereItsAlignmentSays()
+    {
+        QFETCH(int, alignment);
+        QFETCH(int, highest);
+        QFETCH(int, lowest);
+        KeyFace face;
+        face.title = QStringLiteral("HH");
+        face.titleAlignment = alignment;
+        const auto rows = titleRows(renderKeyFace(face, QSize(90, 84)));
+        QVERIFY2(rows.first >= highest && rows.second <= lowest,
+                 qPrintable(QStringLiteral("%1 to %2").arg(rows.first).arg(rows.second)));
+    }
+
+    void titleSize()
+    {
+        KeyFace face;
+        face.title = QStringLiteral("H");
+        const auto normal = titleRows(renderKeyFace(face, QSize(90, 84)));
+        face.titleFontSize = 32;
+        const auto large = titleRows(renderKeyFace(face, QSize(90, 84)));
+        QVERIFY(large.second - large.first > 1.5 * (normal.second - normal.first));
+        face.titleFontSize = 0; // a record that was never set
+        QCOMPARE(titleRows(renderKeyFace(face, QSize(90, 84))), normal);
+    }
+
+    void effects()
+    {
+        KeyFace face;
+        face.picture = halves();
+        face.imageEffects = ColourInversion;
+        QCOMPARE(renderKeyFace(face, QSize(90, 84)).pixelColor(10, 10), QColor(Qt::cyan));
+        face.imageEffects = Marquee;
+        QCOMPARE(renderKeyFace(face, QSize(90, 84), 0).pixelColor(10, 10), QColor(Qt::red));
+        QCOMPARE(renderKeyFace(face, QSize(90, 84), 0.5).pixelColor(10, 10), QColor(Qt::blue));
+        face.imageEffects = ImageZooming;
+        QCOMPARE(renderKeyFace(face, QSize(90, 84), 0), renderKeyFace(face, QSize(90, 84), 1));
+        QVERIFY(isMovingEffect(Marquee) && isMovingEffect(ImageZooming));
+        QVERIFY(!isMovingEffect(ColourInversion) && !isMovingEffect(NoEffect));
+    }
+};
+
+QTEST_MAIN(TestPanelKeyface)
+#include "tst_panel_keyface.moc"
