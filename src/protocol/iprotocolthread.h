@@ -1,0 +1,44 @@
+/// The worker thread that talks with the panel.
+#pragma once
+
+#include "base/request.h"
+
+#include <QThread>
+
+namespace vorlinmodel {
+
+class IProtocolThread : public QThread
+{
+    Q_OBJECT
+public:
+    using QThread::QThread;
+
+    /// Prepares the transport; once, before the thread is started. @return false when the HID library fails.
+    virtual bool Init() = 0;
+    /// Appends a copy to the queue. Any thread; never waits.
+    virtual void postRequest(const Request &request) = 0;
+    virtual void clearRequests() = 0;
+    /// Moves the oldest request out of the queue. @return false when there is none.
+    virtual bool takeRequest(Request &request) = 0;
+    virtual bool isUpgrading() const = 0;  ///< any thread
+    virtual int pollingPeriod() const = 0; ///< ms; 10 at start, 2 after the first multi-block message
+    virtual void setPollingPeriod(int milliseconds) = 0;
+    /// Asks the thread to end and waits for it, at most 2 s, also in the middle of a wait for a silent panel.
+    virtual void stop() = 0;
+
+    /// Emits sigDealExecCommand on behalf of the model, which cannot see this class. Any thread.
+    void execCommand(int fid, const QString &command) { emit sigDealExecCommand(fid, command); }
+
+signals: // all emitted on this thread
+    void sigUsbConnectState(bool isConnect);
+    void logMessageSignal(const QString &message); ///< a line for the upgrade dialog
+    /// A whole message. @p recvData is valid only until the signal returns: connect directly and copy.
+    void sigDealRecvData(const quint8 *recvData, qint32 nBufferLen);
+    void sigDealExecCommand(qint32 nFid, const QString &strCmd);
+    void sigSendScriptFinished();
+    void sigSendVideoFinished(qint32 nResult);
+    void sigSendUpdateAvailable(qint32 nResult);
+    void sigUpgradeFinished(qint32 nResult);
+};
+
+} // namespace vorlinmodel

@@ -1,0 +1,52 @@
+/// MDProtocol over the real transport and a fake device, without a thread.
+#pragma once
+
+#include "base/logcapture.h"
+#include "protocol/mdprotocol.h"
+#include "support/fakehid.h"
+#include "transport/hidtransfer.h"
+#include "wire/bytesofhex.h"
+
+#include <QStringList>
+
+class ProtocolFixture
+{
+public:
+    ProtocolFixture()
+    {
+        renewFakeHid();
+        fakeHid().setInstantTimeouts(true);
+    }
+
+    QStringList events; ///< "key l/p/k", "message <hex>", "reassembly", "pause <ms>"
+    bool interrupted = false;
+    int endPauseAfter = -1; ///< pauses until the thread is asked to end
+    LogCapture log;
+    vorlindesk::HIDTransfer transfer;
+    vorlindesk::MDProtocol protocol{transfer, callbacks()};
+
+    QStringList linesWith(const char *part) { return log.lines().filter(QLatin1String(part)); }
+
+private:
+    vorlindesk::MDProtocol::Callbacks callbacks()
+    {
+        return {
+            .messageReceived =
+                [this](const quint8 *bytes, int length) {
+                    const QByteArray message(reinterpret_cast<const char *>(bytes), length);
+                    events << QStringLiteral("message ") + QString::fromLatin1(message.toHex(' '));
+                },
+            .keyPressed =
+                [this](int lid, int pageid, int kid) {
+                    events << QStringLiteral("key %1/%2/%3").arg(lid).arg(pageid).arg(kid);
+                },
+            .reassemblyStarted = [this] { events << QStringLiteral("reassembly"); },
+            .interrupted = [this] { return interrupted; },
+            .pause =
+                [this](int milliseconds) {
+                    events << QStringLiteral("pause %1").arg(milliseconds);
+                    return --endPauseAfter != 0;
+                },
+        };
+    }
+};
