@@ -1,0 +1,26 @@
+/// Colours and style sheets of the main window.
+#pragma once
+
+#include <QColor>
+
+namespace Style {
+
+inline constexpr QRgb PageBackground = qRgb(51, 51, 51);
+inline constexpr QRgb Highlight = qRgb(0, 160, 255);
+inline constexpr QRgb InactiveCell = qRgb(108, 108, 108);
+
+inline constexpr char Window[] = "background-color:rgb(255,255,255)";
+inline constexpr char MainFrame[] =
+    "#mainframe, #mainframe QLabel {background-color: rgb(51, 51, 51);color: white;}";
+inline constexpr char StatusFrame[] =
+    "#statusframe, #statusframe QLabel {background-color: rgb(40, 40, 40);color: white;}";
+
+// Both frames carry the same kind of button.
+inline constexpr char Button[] =
+    "QPushButton {background-color: rgb(70, 70, 70);color: white;border: 1px solid rgb(108, 108, 108);"
+    "border-radius: 4px;padding: 6px 16px;}"
+    "QPushButton:hover, QPushButton:focus {border-color: rgb(0, 160, 255);}"
+    "QPushButton:pressed {background-color: rgb(0, 160, 255);}"
+    "QPushButton:disabled {color: rgb(108, 108, 108);border-color: rgb(80, 80, 80);}";
+
+} // namespace Style

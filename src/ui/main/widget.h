@@ -1,0 +1,103 @@
+/// The main window.
+#pragma once
+
+#include "base/handover.h"
+#include "hostactions.h"
+#include "platform/desktop.h"
+#include "readprogress.h"
+#include "receiveddata.h"
+#include "receiveworkers.h"
+
+#include <QTimer>
+#include <QWidget>
+#include <memory>
+
+class MainFrame;
+class StatusFrame;
+class WaitingSpinnerWidget;
+
+namespace vorlindesk {
+class IFrameworkContext;
+}
+namespace vorlinmodel {
+class IFunctionManager;
+class IProtocolThread;
+} // namespace vorlinmodel
+
+/// Stands between the panel and what the person sees: takes what the protocol thread reports, and keeps the
+/// model in step with the panel. @p context must outlive it; the protocol thread must have ended before it is
+/// destroyed.
+class Widget : public QWidget, private IReceivedData
+{
+    Q_OBJECT
+public:
+    explicit Widget(vorlindesk::IFrameworkContext &context,
+                    vorlindesk::IDesktop &desktop = vorlindesk::systemDesktop(), QWidget *parent = nullptr);
+    ~Widget() override;
+
+    bool isReady() const { return mReady; } ///< false when a step of the set-up failed, which is logged
+
+    /// Asks the panel for its whole configuration, under the waiting dialog.
+    void readConfiguration();
+
+signals:
+    void sigStartSyncDevInfo();
+    void sigUpdateWaitingDialogTime(int nTime); ///< ms
+
+public slots:
+    /// @p recvData is needed only during the call.
+    void slotDealRecvData(const quint8 *recvData, int nBufferLen);
+    void slotDealProtocolSendResult(int nResult);
+    void slogDealRequestId(int nRequestId); ///< the waiting dialog's time ran out
+    void slotSyncDevInfo();
+    void slotTimerSyncOut();
+    void slotExecCommand(int nFid, const QString &strCmd);
+    void slotUpdateWaitingDialogTime(int nTime); ///< ms
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    bool setUp();
+    bool setupStatusFrame();
+    void setupSpinner();
+    bool setupMainFrame();
+    void layOutFrames();
+    void connectProtocolThread(vorlinmodel::IProtocolThread &thread);
+    void connectTimers();
+
+    void onPageReceived(int layoutId, int pageId, int keyCount, bool first) override;
+    void onRecordReceived(int total, int received) override;
+    void onConfigurationComplete() override;
+    void onTextReceived(int code, const QString &text) override;
+    void onHomeLayoutReceived(int layoutId) override;
+    void onCustomLayoutReceived(const QByteArray &payload) override;
+
+    void onConnectState(bool connected);
+    void onVersion(int code, const QString &text);
+    void onPollTimeout();
+    void watchRead();
+    void finishRead();
+    void showActivity();
+    void retranslate();
+
+    vorlindesk::IFrameworkContext &mContext;
+    vorlinmodel::IFunctionManager *mpStore;
+    HostActions mHostActions;
+    StatusFrame *mpStatusFrame = nullptr;
+    WaitingSpinnerWidget *mpSpinner = nullptr;
+    MainFrame *mpMainFrame = nullptr;
+    QTimer mSyncTimer{this};
+    QTimer mPollTimer{this};
+    QTimer mReadEndTimer{this}; ///< runs out when no more of the configuration comes
+    bool mReady = false;
+    bool mIsFirstSync = true;
+    bool mAskedForVersion = false;
+    bool mConnected = false;
+    bool mSoftwareVersionKnown = false;
+    bool mReadIncomplete = false;
+    ReadProgress mProgress;
+    vorlindesk::HandOver mHandOver;
+    std::unique_ptr<ReceivedDataHandler> mpReceivedData;
+    ReceiveWorkers mWorkers;
+};

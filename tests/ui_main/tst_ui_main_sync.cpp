@@ -1,0 +1,333 @@
+// The main window and the panel: asking for the version, reading the configuration, polling, coming back.
+#include "base/systemsettings.h"
+#include "ui_main/messagebox.h"
+#include "ui_main/waitingspinnerwidget.h"
+#include "ui_main/widget.h"
+#include "uimainfakes.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QtTest>
+#include <thread>
+
+namespace {
+
+QByteArray pngBytes()
+{
+    QImage image(90, 84, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return bytes;
+}
+
+const QStringList ReadRequest{QStringLiteral("dialog 8: 100000"), QStringLiteral("8: 60")};
+
+} // namespace
+
+class tst_ui_main_sync : public QObject
+{
+    Q_OBJECT
+    std::unique_ptr<TemporaryCurrentDir> mpDir;
+    std::unique_ptr<LogCapture> mpLog;
+    std::unique_ptr<FakeContext> mpContext;
+    RecordingDesktop mDesktop;
+    std::unique_ptr<Widget> mpWidget;
+    QStringList mBoxes; ///< texts of the message boxes
+
+    QTimer *timer(const char *name) const { return mpWidget->findChild<QTimer *>(QString::fromLatin1(name)); }
+    QString label(const char *name) const
+    {
+        return mpWidget->findChild<QLabel *>(QString::fromLatin1(name))->text();
+    }
+    WaitingSpinnerWidget *spinner() const { return mpWidget->findChild<WaitingSpinnerWidget *>(); }
+    void receive(const QByteArray &message) { mpContext->thread.receive(message); }
+
+    /// Lets everything through that has been received: the workers end in order, so the version ends last.
+    void settle()
+    {
+        receive(PanelMessage::message(16, QByteArrayLiteral("\x00\x2A")));
+        QTRY_VERIFY(label("deviceValues").contains(QStringLiteral("42")));
+        receive(PanelMessage::message(16, QByteArrayLiteral("\x00\x01")));
+        QTRY_VERIFY(!label("deviceValues").contains(QStringLiteral("42")));
+    }
+
+    void startReading()
+    {
+        mpWidget->readConfiguration();
+        mpContext->requests.clear();
+    }
+
+private slots:
+    void init()
+    {
+        mpDir = std::make_unique<TemporaryCurrentDir>();
+        mpLog = std::make_unique<LogCapture>();
+        vorlindesk::SystemSettings::createDefaults();
+        mpContext = std::make_unique<FakeContext>();
+        QVERIFY(mpContext->store.Init());
+        mpContext->store.setRecordPause(0);
+        mpWidget = std::make_unique<Widget>(*mpContext, mDesktop);
+        QVERIFY(mpWidget->isReady());
+        mBoxes.clear();
+        MessageBox::setAnswer([this](const QMessageBox &box) {
+            mBoxes.append(box.text());
+            return QMessageBox::Ok;
+        });
+    }
+
+    void cleanup()
+    {
+        MessageBox::setAnswer({});
+        mpWidget.reset();
+        mpContext.reset();
+        mpLog.reset();
+        mpDir.reset();
+    }
+
+    void syncTimerRunsOnlyWhenItIsSwitchedOn()
+    {
+        QVERIFY(timer("syncTimer")->isActive());
+        QCOMPARE(timer("syncTimer")->interval(), 2000);
+        QCOMPARE(timer("pollTimer")->interval(), 30000);
+        vorlindesk::SystemSettings::setAutoSyncEnable(false);
+        mpWidget = std::make_unique<Widget>(*mpContext, mDesktop);
+        QVERIFY(!timer("syncTimer")->isActive());
+        QVERIFY(timer("pollTimer")->isActive());
+    }
+
+    void silentPanelIsAskedAgainAndAgainWithoutFillingTheLog()
+    {
+        for (int i = 0; i < 3; ++i)
+            mpWidget->slotTimerSyncOut();
+        QCOMPARE(mpContext->requests,
+                 QStringList({QStringLiteral("3: 10"), QStringLiteral("3: 10"), QStringLiteral("3: 10")}));
+        QCOMPARE(mpLog->matching("mIsFirstSync"),
+                 QStringList(QStringLiteral("[1] ----------------mIsFirstSync=1")));
+    }
+
+    void nothingIsAskedDuringAnUpgrade()
+    {
+        mpContext->thread.upgrading = true;
+        mpWidget->slotTimerSyncOut();
+        QCOMPARE(mpContext->requests, QStringList());
+        QCOMPARE(mpLog->count("mIsFirstSync"), 0);
+    }
+
+    void firstVersionStartsTheRead()
+    {
+        QDir(mpDir->path("devConfig")).removeRecursively();
+        QSignalSpy started(mpWidget.get(), &Widget::sigStartSyncDevInfo);
+        receive(PanelMessage::hardwareVersion());
+        QTRY_COMPARE(started.count(), 1);
+        QCOMPARE(timer("syncTimer")->interval(), 3000);
+        QVERIFY(mpContext->store.getModeFlag());
+        QVERIFY(QFileInfo(mpDir->path("devConfig/image")).isDir());
+        QCOMPARE(mpLog->count("-------------------start auto----sync devinfo--------"), 1);
+
+        mpWidget->slotTimerSyncOut();
+        QVERIFY(!timer("syncTimer")->isActive());
+        QCOMPARE(mpContext->requests, ReadRequest);
+        QVERIFY(spinner()->isSpinning());
+
+        receive(PanelMessage::hardwareVersion());
+        settle();
+        QCOMPARE(started.count(), 1);
+        QCOMPARE(mpContext->requests, ReadRequest);
+        QVERIFY(!timer("syncTimer")->isActive());
+    }
+
+    void versionsAreShownAndLogged()
+    {
+        std::thread panel([this] { // where the real signals come from
+            receive(PanelMessage::hardwareVersion());
+            receive(PanelMessage::softwareVersion());
+        });
+        panel.join();
+        QTRY_COMPARE(label("softwareVersion"), QStringLiteral("PIC Software Version: SW 3.4"));
+        QCOMPARE(label("hardwareVersion"), QStringLiteral("PIC Hardware Version: HW 1.2"));
+        QCOMPARE(mpLog->count("HW 1.2"), 1);
+        QCOMPARE(mpLog->count("SW 3.4"), 1);
+    }
+
+    void pollAsksOnlyWhileIdle_data()
+    {
+        QTest::addColumn<bool>("synchronised");
+        QTest::addColumn<bool>("modeFlag");
+        QTest::addColumn<bool>("upgrading");
+        QTest::addColumn<QStringList>("requests");
+        QTest::newRow("idle") << true << false << false << QStringList(QStringLiteral("4: 10"));
+        QTest::newRow("no version yet") << false << false << false << QStringList();
+        QTest::newRow("reading") << true << true << false << QStringList();
+        QTest::newRow("upgrading") << true << false << true << QStringList();
+    }
+
+    void pollAsksOnlyWhileIdle()
+    {
+        QFETCH(bool, synchronised);
+        QFETCH(bool, modeFlag);
+        QFETCH(bool, upgrading);
+        if (synchronised) {
+            receive(PanelMessage::hardwareVersion());
+            settle();
+        }
+        timer("syncTimer")->stop();
+        mpContext->store.setModeFlag(modeFlag);
+        mpContext->thread.upgrading = upgrading;
+        QSignalSpy polled(timer("pollTimer"), &QTimer::timeout);
+        timer("pollTimer")->setSingleShot(true);
+        timer("pollTimer")->start(1);
+        QVERIFY(polled.wait());
+        QTEST(mpContext->requests, "requests");
+    }
+
+    void waitingTimeFollowsTheRecordsThatAreMissing()
+    {
+        QSignalSpy waiting(mpWidget.get(), &Widget::sigUpdateWaitingDialogTime);
+        startReading();
+        receive(PanelMessage::page(1, 1, 40));
+        for (int i = 0; i < 10; ++i)
+            receive(PanelMessage::picture(1, 1, 1 + i));
+        QTRY_COMPARE(waiting.count(), 10);
+        QCOMPARE(waiting.first().first().toInt(), 49000);
+        QCOMPARE(waiting.last().first().toInt(), 40000);
+        QCOMPARE(spinner()->findChild<QTimer *>(QStringLiteral("showTime"))->interval(), 40000);
+        mpContext->thread.sigUsbConnectState(true);
+        QTRY_COMPARE(label("activity"), QStringLiteral("Reading the configuration... 10 of 40 keys"));
+    }
+
+    void completeConfigurationEndsTheRead()
+    {
+        receive(PanelMessage::hardwareVersion());
+        settle();
+        startReading();
+        receive(PanelMessage::page(2, 3, 2));
+        receive(PanelMessage::picture(2, 3, 1, pngBytes()));
+        settle();
+        QVERIFY(spinner()->isSpinning());
+        receive(PanelMessage::picture(2, 3, 2));
+        QTRY_VERIFY(!spinner()->isSpinning());
+        QVERIFY(mpWidget->isEnabled());
+        QVERIFY(!mpContext->store.getModeFlag());
+        QCOMPARE(mpLog->count("--refreshall key ui-nLayoutId[2]-nPageId[3]"), 1);
+        QCOMPARE(label("page"), QStringLiteral("3/16"));
+        QVERIFY(QFileInfo::exists(mpDir->path("devConfig/image/2_3_1.png")));
+        QTRY_COMPARE(mpLog->count("Configuration read: 2 keys on 1 pages"), 1);
+        QCOMPARE(label("activity"), QStringLiteral("Connected"));
+        QCOMPARE(mBoxes, QStringList());
+    }
+
+    void emptyPageCompletesTheRead()
+    {
+        startReading();
+        receive(PanelMessage::message(8, QByteArrayLiteral("\x01\x04")));
+        QTRY_VERIFY(!spinner()->isSpinning());
+        QVERIFY(!mpContext->store.getModeFlag());
+        QCOMPARE(mpLog->count("device key is empty Layoutid[1] Pageid[4]"), 1);
+    }
+
+    /// A page takes its time, its pictures none: yet they must not be filed before the page has emptied the
+    /// folder.
+    void picturesWaitForTheirPage()
+    {
+        mpContext->store.setRecordPause(20);
+        startReading();
+        receive(PanelMessage::page(1, 1, 3));
+        for (int key = 1; key <= 3; ++key)
+            receive(PanelMessage::picture(1, 1, key, pngBytes()));
+        QTRY_VERIFY(!spinner()->isSpinning());
+        QCOMPARE(QDir(mpDir->path("devConfig/image")).entryList({QStringLiteral("*.png")}).size(), 3);
+    }
+
+    void readOfSeveralPagesKeepsThemAll()
+    {
+        QFile stale(mpDir->path("devConfig/image/9_9_9.png"));
+        QVERIFY(stale.open(QIODevice::WriteOnly));
+        stale.close();
+        startReading();
+        for (int page = 1; page <= 2; ++page) {
+            receive(PanelMessage::page(1, page, 1));
+            receive(PanelMessage::picture(1, page, 1, pngBytes()));
+        }
+        QTRY_COMPARE(mpLog->count("Configuration read: 2 keys on 2 pages"), 1);
+        QCOMPARE(QDir(mpDir->path("devConfig/image")).entryList({QStringLiteral("*.png")}),
+                 QStringList({QStringLiteral("1_1_1.png"), QStringLiteral("1_2_1.png")}));
+        QCOMPARE(label("page"), QStringLiteral("1/16"));
+    }
+
+    void returningPanelIsReadAgain_data()
+    {
+        QTest::addColumn<bool>("reading");
+        QTest::addColumn<bool>("linkLost");
+        QTest::addColumn<bool>("timedOut");
+        QTest::addColumn<QStringList>("requests");
+        QTest::newRow("in the middle of a read") << true << false << false << ReadRequest;
+        QTest::newRow("after the link was seen to break") << true << true << false << ReadRequest;
+        QTest::newRow("later than the time-out") << true << true << true << ReadRequest;
+        QTest::newRow("after a read that a panel in reach did not answer")
+            << true << false << true << QStringList();
+        QTest::newRow("while nothing is read") << false << true << false << QStringList();
+    }
+
+    void returningPanelIsReadAgain()
+    {
+        QFETCH(bool, reading);
+        QFETCH(bool, linkLost);
+        QFETCH(bool, timedOut);
+        mpContext->thread.sigUsbConnectState(true);
+        if (reading) {
+            startReading();
+            receive(PanelMessage::page(1, 1, 3));
+            receive(PanelMessage::picture(1, 1, 1));
+        }
+        settle();
+        if (linkLost) {
+            mpContext->thread.sigUsbConnectState(false);
+            QTRY_COMPARE(label("activity"), QStringLiteral("Looking for the panel..."));
+        }
+        if (timedOut) {
+            mpContext->hideWaitingDialog();
+            mpWidget->slogDealRequestId(8);
+        }
+        receive(PanelMessage::softwareVersion());
+        settle();
+        QTEST(mpContext->requests, "requests");
+        QVERIFY(label("activity") != QStringLiteral("Looking for the panel..."));
+    }
+
+    void timeOutBoxSaysWhatFailed_data()
+    {
+        QTest::addColumn<int>("requestId");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("import") << 5 << QStringLiteral(u"Import failed\uFF0CPlease try again!");
+        QTest::newRow("video") << 1 << QStringLiteral(u"Import video failed\uFF0CPlease try again!");
+        QTest::newRow("read") << 8 << QStringLiteral(u"Read failed\uFF0CPlease try again!");
+        QTest::newRow("any other") << 3 << QString();
+    }
+
+    void timeOutBoxSaysWhatFailed()
+    {
+        QFETCH(int, requestId);
+        QFETCH(QString, text);
+        mpContext->store.setModeFlag(true);
+        mpContext->showWaitingDialog(requestId, 1);
+        QTRY_COMPARE(mBoxes, QStringList(text));
+        QVERIFY(!spinner()->isSpinning());
+        QCOMPARE(mpContext->store.getModeFlag(), requestId != 8);
+    }
+
+    void sendResultHidesTheDialogWithoutABox()
+    {
+        mpContext->showWaitingDialog(1, 60000);
+        mpContext->thread.sigSendVideoFinished(-1);
+        QTRY_VERIFY(!spinner()->isSpinning());
+        QCOMPARE(mpLog->count("--------------slotDealProtocolSendResult-----nResult=[-1]"), 1);
+        QCOMPARE(mBoxes, QStringList());
+    }
+};
+
+QTEST_MAIN(tst_ui_main_sync)
+#include "tst_ui_main_sync.moc"

@@ -1,0 +1,181 @@
+/// Stand-ins for what surrounds the main window: the panel's thread, the context, the desktop, the log.
+#pragma once
+
+#include "base/iframeworkcontext.h"
+#include "base/language.h"
+#include "base/log.h"
+#include "model/functionmanager.h"
+#include "platform/desktop.h"
+#include "protocol/iprotocolthread.h"
+
+#include <QTemporaryDir>
+#include <QTranslator>
+#include <QtEndian>
+
+/// Emits what a test wants the panel to have said.
+class FakeProtocolThread : public vorlinmodel::IProtocolThread
+{
+public:
+    bool Init() override { return true; }
+    void postRequest(const vorlinmodel::Request &) override {}
+    void clearRequests() override {}
+    bool takeRequest(vorlinmodel::Request &) override { return false; }
+    bool isUpgrading() const override { return upgrading; }
+    int pollingPeriod() const override { return 10; }
+    void setPollingPeriod(int) override {}
+    void stop() override {}
+
+    /// As the real one does: the bytes are gone when the signal returns.
+    void receive(QByteArray message)
+    {
+        emit sigDealRecvData(reinterpret_cast<const quint8 *>(message.constData()), message.size());
+        message.fill('\xEE');
+    }
+
+    bool upgrading = false;
+};
+
+class FakeContext : public vorlindesk::IFrameworkContext
+{
+public:
+    vorlindesk::LanguageManager *languageManager() override { return hasLanguage ? &language : nullptr; }
+    vorlinmodel::IFunctionManager *functionManager() override { return hasStore ? &store : nullptr; }
+    vorlinmodel::IProtocolThread *protocolThread() override { return &thread; }
+    void sendRequest(vorlinmodel::RequestKind, int, int, int, int, int) override {}
+    void sendRequest(vorlinmodel::RequestKind kind, int layoutId, int pageId) override
+    {
+        requests.append(QStringLiteral("%1: %2, %3").arg(int(kind)).arg(layoutId).arg(pageId));
+    }
+    void sendRequest(vorlinmodel::RequestKind, const QString &, const QString &) override {}
+    void sendRequest(vorlinmodel::RequestKind kind, int argument) override
+    {
+        requests.append(QStringLiteral("%1: %2").arg(int(kind)).arg(argument));
+    }
+    void showWaitingDialog(int requestId, int showTimeMs) override
+    {
+        requests.append(QStringLiteral("dialog %1: %2").arg(requestId).arg(showTimeMs));
+        emit sigShowWaitingDialog(requestId, showTimeMs);
+    }
+    void hideWaitingDialog() override { emit sigHideWaitingDialog(); }
+    QString fontStyle() const override { return QStringLiteral("font: 75 12pt \"Arial\";"); }
+
+    QTranslator translator;
+    vorlindesk::LanguageManager language{&translator};
+    vorlinmodel::FunctionManager store;
+    FakeProtocolThread thread;
+    QStringList requests; ///< "kind: argument", or "dialog id: time"
+    bool hasLanguage = true;
+    bool hasStore = true;
+};
+
+class RecordingDesktop : public vorlindesk::IDesktop
+{
+public:
+    bool openUrl(const QUrl &url) override
+    {
+        calls.append(QStringLiteral("url ") + url.toString(QUrl::FullyEncoded));
+        return succeeds;
+    }
+    bool openFile(const QString &path) override
+    {
+        calls.append(QStringLiteral("file ") + path);
+        return succeeds;
+    }
+    void setClipboardText(const QString &text) override { calls.append(QStringLiteral("clipboard ") + text); }
+    bool pressPaste() override
+    {
+        calls.append(QStringLiteral("paste"));
+        return succeeds;
+    }
+
+    QStringList calls;
+    bool succeeds = true;
+};
+
+/// Collects the log lines, "[level] text", while it lives.
+class LogCapture
+{
+public:
+    LogCapture()
+    {
+        vorlindesk::setLogSink([this](vorlindesk::LogLevel level, const QString &text) {
+            const std::lock_guard lock(mMutex);
+            mLines.append(QStringLiteral("[%1] %2").arg(int(level)).arg(text));
+        });
+    }
+    ~LogCapture() { vorlindesk::setLogSink({}); }
+    int count(const char *text) const
+    {
+        const std::lock_guard lock(mMutex);
+        return int(mLines.filter(QString::fromUtf8(text)).size());
+    }
+    QStringList matching(const char *text) const
+    {
+        const std::lock_guard lock(mMutex);
+        return mLines.filter(QString::fromUtf8(text));
+    }
+
+private:
+    mutable std::mutex mMutex;
+    QStringList mLines;
+};
+
+/// A folder of its own as the current directory.
+class TemporaryCurrentDir
+{
+public:
+    TemporaryCurrentDir() { QDir::setCurrent(mDir.path()); }
+    ~TemporaryCurrentDir() { QDir::setCurrent(mBefore); }
+    QString path(const char *relative) const { return mDir.filePath(QString::fromLatin1(relative)); }
+
+private:
+    const QString mBefore = QDir::currentPath();
+    QTemporaryDir mDir;
+};
+
+namespace PanelMessage {
+
+inline QByteArray message(int code, const QByteArray &body)
+{
+    QByteArray length(4, '\0');
+    qToLittleEndian<quint32>(quint32(body.size()), length.data());
+    return char(code) + length + body;
+}
+
+/// A page of @p keyCount records of function 5, key ids 1 to 15 in turn.
+inline QByteArray page(int layoutId, int pageId, int keyCount)
+{
+    constexpr int recordSize = 272;
+    QByteArray body(1, char(layoutId));
+    body.append(char(pageId));
+    for (int i = 0; i < keyCount; ++i) {
+        QByteArray record(recordSize, '\0');
+        record[0] = char(layoutId);
+        record[1] = char(pageId);
+        record[2] = char(1 + i % 15);
+        record[5] = 5;
+        body += record;
+    }
+    return message(8, body);
+}
+
+/// A picture of a key; without @p bytes the empty one, which is counted like any other.
+inline QByteArray picture(int layoutId, int pageId, int keyId, const QByteArray &bytes = {})
+{
+    QByteArray body(1, char(layoutId));
+    body.append(char(pageId)).append(char(keyId)).append(char(9));
+    QByteArray count(4, '\0');
+    qToLittleEndian<quint32>(quint32(bytes.size()), count.data());
+    return message(1, bytes.isEmpty() ? body + '\0' : body + count + bytes);
+}
+
+inline QByteArray hardwareVersion()
+{
+    return message(3, QByteArrayLiteral("HW 1.2\0rest"));
+}
+inline QByteArray softwareVersion()
+{
+    return message(4, QByteArrayLiteral("SW 3.4\0"));
+}
+
+} // namespace PanelMessage
