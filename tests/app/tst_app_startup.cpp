@@ -1,0 +1,130 @@
+// Command line, font size, and a start that fails.
+#include "app/commandline.h"
+#include "app/fontstyle.h"
+#include "app/frameworkcontext.h"
+#include "base/log.h"
+#include "support/fakehid.h"
+
+#include <QtTest>
+
+using vorlindesk::CommandLine;
+
+class tst_app_startup : public QObject
+{
+    Q_OBJECT
+private slots:
+    void fontShrinksAsTheDpiGrows_data()
+    {
+        QTest::addColumn<double>("dpi");
+        QTest::addColumn<QString>("style");
+        QTest::newRow("72") << 72.0 << QStringLiteral("font: 75 12pt \"Arial\";");
+        QTest::newRow("96") << 96.0 << QStringLiteral("font: 75 12pt \"Arial\";");
+        QTest::newRow("97: a step") << 97.0 << QStringLiteral("font: 75 10.3896pt \"Arial\";");
+        QTest::newRow("120") << 120.0 << QStringLiteral("font: 75 10.15pt \"Arial\";");
+        QTest::newRow("144") << 144.0 << QStringLiteral("font: 75 9.9pt \"Arial\";");
+        QTest::newRow("145: a step") << 145.0 << QStringLiteral("font: 75 8.88958pt \"Arial\";");
+        QTest::newRow("168") << 168.0 << QStringLiteral("font: 75 8.65pt \"Arial\";");
+        QTest::newRow("192: a step") << 192.0 << QStringLiteral("font: 75 7.4pt \"Arial\";");
+    }
+
+    void fontShrinksAsTheDpiGrows()
+    {
+        QFETCH(double, dpi);
+        QTEST(vorlindesk::mainFontStyle(dpi), "style");
+    }
+
+    void commandLine_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("action");
+        QTest::addColumn<QString>("inMessage");
+        QTest::addColumn<QString>("dataDir");
+        const auto row = [](const char *name, const QStringList &arguments, CommandLine::Action action,
+                            const char *inMessage, const char *dataDir) {
+            QTest::newRow(name) << arguments << static_cast<int>(action) << QString::fromLatin1(inMessage)
+                                << QString::fromLatin1(dataDir);
+        };
+        const QString dir = QStringLiteral("--data-dir");
+        row("nothing", {}, CommandLine::Action::Run, "", "");
+        row("help", {QStringLiteral("--help")}, CommandLine::Action::Tell, "--data-dir <DIR>", "");
+        row("version", {QStringLiteral("--version")}, CommandLine::Action::Tell, "vorlindesk 0.", "");
+        row("data folder", {dir, QStringLiteral("/a b")}, CommandLine::Action::Run, "", "/a b");
+        row("data folder, joined", {dir + QStringLiteral("=/c")}, CommandLine::Action::Run, "", "/c");
+        row("data folder without a value", {dir}, CommandLine::Action::Refuse, "data-dir", "");
+        row("data folder with an empty value", {dir + QLatin1Char('=')}, CommandLine::Action::Refuse,
+            "data-dir", "");
+        row("unknown option", {QStringLiteral("--frob")}, CommandLine::Action::Refuse, "frob", "");
+        row("argument that is no option", {QStringLiteral("frob")}, CommandLine::Action::Refuse, "'frob'",
+            "");
+    }
+
+    void commandLine()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, inMessage);
+        arguments.prepend(QStringLiteral("vorlindesk"));
+        const CommandLine result = vorlindesk::parseCommandLine(arguments);
+        QTEST(static_cast<int>(result.action), "action");
+        QTEST(result.dataDir, "dataDir");
+        QVERIFY2(result.message.contains(inMessage), qPrintable(result.message));
+        QVERIFY(result.message.isEmpty() || result.message.endsWith(QLatin1Char('\n')));
+    }
+
+    void startBuildsItsPartsInOrder_data()
+    {
+        QTest::addColumn<bool>("hidWorks");
+        QTest::addColumn<QStringList>("log"); // those of the expected lines that must come, in this order
+        QTest::newRow("all works") << true
+                                   << QStringList({QStringLiteral("new protocol thread"),
+                                                   QStringLiteral("Initialize the hid successfully"),
+                                                   QStringLiteral("init protocol thread"),
+                                                   QStringLiteral("init protocol start"),
+                                                   QStringLiteral("new Widget")});
+        QTest::newRow("no HID library") << false
+                                        << QStringList({QStringLiteral("new protocol thread"),
+                                                        QStringLiteral("Failed to initialize the hid"),
+                                                        QStringLiteral("init protocol thread error")});
+    }
+
+    void startBuildsItsPartsInOrder()
+    {
+        QFETCH(bool, hidWorks);
+        renewFakeHid();
+        fakeHid().setPresent(false);
+        fakeHid().setInitResult(hidWorks ? 0 : -1);
+        const QStringList watched{QStringLiteral("new protocol thread"),
+                                  QStringLiteral("Initialize the hid successfully"),
+                                  QStringLiteral("Failed to initialize the hid"),
+                                  QStringLiteral("init protocol thread"),
+                                  QStringLiteral("init protocol thread error"),
+                                  QStringLiteral("init protocol start"),
+                                  QStringLiteral("new Widget")};
+        std::mutex mutex;
+        QStringList lines;
+        vorlindesk::setLogSink([&](vorlindesk::LogLevel, const QString &text) {
+            const std::lock_guard lock(mutex);
+            if (watched.contains(text))
+                lines.append(text);
+        });
+        QTemporaryDir dir;
+        const QString before = QDir::currentPath();
+        {
+            char name[] = "vorlindesk";
+            char *arguments[] = {name, nullptr};
+            int count = 1;
+            vorlindesk::FrameworkContext context;
+            QCOMPARE(context.start(count, arguments, dir.path()), hidWorks);
+            if (hidWorks) {
+                QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+                QVERIFY(!context.run());
+                QVERIFY(QFileInfo::exists(dir.filePath(QStringLiteral("devConfig/system.ini"))));
+            }
+        }
+        QDir::setCurrent(before);
+        vorlindesk::setLogSink({});
+        QTEST(lines, "log");
+    }
+};
+
+QTEST_APPLESS_MAIN(tst_app_startup)
+#include "tst_app_startup.moc"
