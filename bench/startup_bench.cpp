@@ -1,5 +1,6 @@
-/// Start, memory and idle load of a program beside those of an empty Qt Widgets program. Needs an X display without a
-/// window manager (xvfb-run): a window counts as shown when the server maps it as a child of the root window.
+/// Start, memory and idle load of a program beside those of an empty Qt Widgets program. Needs an X display
+/// without a window manager (xvfb-run): a window counts as shown when the server maps it as a child of the
+/// root window.
 #include <X11/Xlib.h>
 
 #include <algorithm>
@@ -59,8 +60,8 @@ bool waitForWindow(Display *display)
         XEvent event;
         XNextEvent(display, &event);
         XWindowAttributes attributes;
-        if (event.type == MapNotify && XGetWindowAttributes(display, event.xmap.window, &attributes) != 0
-            && attributes.width >= MinimumWindowWidth)
+        if (event.type == MapNotify && XGetWindowAttributes(display, event.xmap.window, &attributes) != 0 &&
+            attributes.width >= MinimumWindowWidth)
             return true;
     }
     return false;

@@ -11,10 +11,17 @@ if(VORLIN_SANITIZE)
     target_link_options(project_options INTERFACE -fsanitize=${VORLIN_SANITIZE})
 endif()
 
-# Qt Core headers that nearly every source needs; widgets stay out, so that lower layers cannot use them unseen.
+# Qt Core headers that nearly every source needs, compiled once for all targets (each of its own would take longer than
+# it saves); widgets stay out, so that lower layers cannot use them unseen.
+file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/precompiled.cpp CONTENT "")
+add_library(precompiled_headers OBJECT ${CMAKE_BINARY_DIR}/precompiled.cpp)
+target_link_libraries(precompiled_headers PRIVATE Qt5::Core project_options)
+set_target_properties(precompiled_headers PROPERTIES AUTOMOC OFF)
+target_precompile_headers(precompiled_headers PRIVATE
+    <QByteArray> <QCoreApplication> <QDateTime> <QDir> <QFile> <QList> <QMap> <QObject> <QSettings> <QString>
+    <QStringList> <QThread> <QVector> <array> <atomic> <condition_variable> <functional> <memory> <mutex>
+    <optional> <vector>)
+
 function(use_precompiled_headers target)
-    target_precompile_headers(${target} PRIVATE
-        <QByteArray> <QCoreApplication> <QDateTime> <QDir> <QFile> <QList> <QMap> <QObject> <QSettings> <QString>
-        <QStringList> <QThread> <QVector> <array> <atomic> <condition_variable> <functional> <memory> <mutex>
-        <optional> <vector>)
+    target_precompile_headers(${target} REUSE_FROM precompiled_headers)
 endfunction()

@@ -2,6 +2,7 @@
 
 #include <QSocketNotifier>
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <fcntl.h>
@@ -15,9 +16,11 @@ std::array<int, 2> signalPipe{-1, -1};
 /// A signal may come at any place in the code, where little more than write() is allowed.
 void onSignal(int)
 {
+    const int error = errno; // of the code that was interrupted, and is yet to be looked at
     const char byte = 0;
     const ssize_t written = write(signalPipe[1], &byte, 1);
     Q_UNUSED(written); // a full pipe says already what must be said
+    errno = error;
 }
 
 } // namespace

@@ -71,6 +71,7 @@ bool FrameworkContext::prepareFiles(const QString &dataDir)
         Log(LogLevel::Error, LogText::NoDataFolder);
         return false;
     }
+    mHasFolder = true;
     startLog(Paths::logFolder());
     logSystemInformation();
     Paths::createRuntimePath();
@@ -133,6 +134,15 @@ bool FrameworkContext::createWindow()
     }
     Log(LogLevel::Info, LogText::NewWidget);
     return true;
+}
+
+QString FrameworkContext::startFailure() const
+{
+    if (!mHasFolder)
+        return QStringLiteral(
+            "vorlindesk could not start: there is no folder that it can write its files to\n");
+    return QStringLiteral("vorlindesk could not start; the reason is in the log in %1\n")
+        .arg(Paths::logFolder());
 }
 
 bool FrameworkContext::run()

@@ -29,6 +29,9 @@ public:
     /// program's files, empty for the usual place. @return false when a step failed, which is logged.
     bool start(int &argc, char **argv, const QString &dataDir);
 
+    /// @return where the reason of a failed start can be read, one line for the terminal.
+    QString startFailure() const;
+
     /// Shows the main window and runs the event loop. @return whether the loop's exit code was non-zero.
     bool run();
 
@@ -61,6 +64,7 @@ private:
     std::unique_ptr<vorlinmodel::ProtocolThread> mpProtocolThread;
     HandOver mHandOver;
     std::unique_ptr<Widget> mpWidget;
+    bool mHasFolder = false; ///< the folder for the program's files was found, and with it the log's
 };
 
 } // namespace vorlindesk

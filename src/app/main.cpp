@@ -1,7 +1,6 @@
 #include "app/commandline.h"
 #include "app/console.h"
 #include "app/frameworkcontext.h"
-#include "base/paths.h"
 
 int main(int argc, char *argv[])
 {
@@ -14,9 +13,7 @@ int main(int argc, char *argv[])
     }
     vorlindesk::FrameworkContext context;
     if (!context.start(argc, argv, commandLine.dataDir)) {
-        const QString folder = vorlindesk::Paths::logFolder();
-        vorlindesk::writeToConsole(
-            QStringLiteral("vorlindesk could not start; the reason is in the log in %1\n").arg(folder), true);
+        vorlindesk::writeToConsole(context.startFailure(), true);
         return EXIT_FAILURE;
     }
     return context.run() ? EXIT_FAILURE : EXIT_SUCCESS;

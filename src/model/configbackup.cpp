@@ -67,6 +67,22 @@ bool replaceSettingsFile(const QString &path, const QByteArray &bytes)
     return writeWholeFile(path, bytes, error);
 }
 
+// For what cannot be replaced in one step. The new file lies ready before the old one is touched: a full
+// disk, which looks the same at first, must not cost the old one.
+bool moveAsideAndReplace(const QString &path, const QByteArray &bytes)
+{
+    const QString ready = path + QLatin1String(".new");
+    QString error;
+    if (!writeWholeFile(ready, bytes, error))
+        return false;
+    if (!safeDelete(path))
+        Log(LogLevel::Error, LogText::DeleteFailed, qUtf8Printable(path));
+    const bool done = QFile::rename(ready, path);
+    if (!done)
+        QFile::remove(ready);
+    return done;
+}
+
 // Removing the old file and then copying would leave none at all when the program ends in between. So the new
 // one takes its place in one step, and only what cannot be replaced that way is removed or moved aside first.
 bool restoreFile(const QString &source, const QString &target)
@@ -76,11 +92,7 @@ bool restoreFile(const QString &source, const QString &target)
     if (bytes) {
         if (QFile::exists(target))
             allowOwner(target); // a read-only file cannot be replaced on every system
-        if (replaceSettingsFile(target, *bytes))
-            return true;
-        if (!safeDelete(target))
-            Log(LogLevel::Error, LogText::DeleteFailed, qUtf8Printable(target));
-        if (replaceSettingsFile(target, *bytes))
+        if (replaceSettingsFile(target, *bytes) || moveAsideAndReplace(target, *bytes))
             return true;
     }
     Log(LogLevel::Error, LogText::RestoreFailed, qUtf8Printable(target));

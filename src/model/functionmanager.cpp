@@ -103,7 +103,8 @@ FunctionManager::~FunctionManager() = default;
 
 bool FunctionManager::Init()
 {
-    return Paths::createPath(Paths::imageFolder()) && createMultiActionsFile();
+    Paths::createPath(Paths::imageFolder()); // without it, which is logged, only pictures are not kept
+    return createMultiActionsFile();
 }
 
 void FunctionManager::setTextOutput(TextOutput output)

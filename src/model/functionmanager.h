@@ -67,7 +67,6 @@ public:
     void setExportDirectory(const QString &folder) override;
     void setImportDirectory(const QString &folder) override;
     QString getExportDirectory() const override;
-    QString getImportDirectory() const override;
     std::optional<QByteArray> readScript(const QString &folder) override;
     std::optional<key_id_t> saveAllKeyAttrByDevconfig(const quint8 *payload, int length) override;
     bool readScriptAllKeyDataToSoft(const QByteArray &script) override;
@@ -82,6 +81,7 @@ public:
     ReceivedCounts getReceivedCounts() const override;
     void deletePageKeys(int lid, int pageid) override;
     bool addKeyAttribute(const key_id_t &key, int fid) override;
+    QString getImportDirectory() const override;
 
 private:
     struct Parts;

@@ -60,14 +60,13 @@ public:
     virtual bool saveKeyAttrByDevconfig(const quint8 *payload, int length) = 0;
     virtual void setRecvTotalKeyCount(int total) = 0; ///< sets the current count to 0
     virtual bool setKeyAttrByProtoKeyConfig(int lid, int pageid, int kid, const KeyRecord &record) = 0;
-    /// Writes the pictures of all keys to the image folder and the records to "imageUrl.ini". @return
-    /// success.
+    /// Writes the pictures of all keys to the image folder and the records to "imageUrl.ini".
+    /// @return success.
     virtual bool saveAllKeyData() = 0;
     virtual bool writeScript(const QByteArray &bytes) = 0; ///< "CD.bin" in a new dated folder
     virtual void setExportDirectory(const QString &folder) = 0;
     virtual void setImportDirectory(const QString &folder) = 0;
     virtual QString getExportDirectory() const = 0;
-    virtual QString getImportDirectory() const = 0;
     /// Reads "CD.bin" of @p folder whole, with the layout and page found in it. @return nothing on failure.
     virtual std::optional<QByteArray> readScript(const QString &folder) = 0;
     /// Takes one page of key records (layout, page, n x 272 bytes). Takes 20 ms per record.
@@ -89,6 +88,7 @@ public:
     virtual void deletePageKeys(int lid, int pageid) = 0; ///< key ids 1 to 15
     /// Creates the record, or sets the function of the one that stands (which resets its attributes).
     virtual bool addKeyAttribute(const key_id_t &key, int fid) = 0;
+    virtual QString getImportDirectory() const = 0; ///< late in the list: the order above is fixed
 };
 
 } // namespace vorlinmodel

@@ -153,11 +153,16 @@ bool MultiActionStore::writeFile(const QVector<MultiActionEntry> &entries, QStri
     return false;
 }
 
+/// No entries yet, or a file that somebody removed while the program runs: there is nothing to keep.
+bool MultiActionStore::holdsNothing(const QString &error) const
+{
+    return error == QLatin1String(ErrorText::FileEmpty) || !QFile::exists(mPath);
+}
+
 std::optional<QVector<MultiActionEntry>> MultiActionStore::readForChange(QString &error) const
 {
     auto entries = readFile(error);
-    // No entries yet, or a file that somebody removed while the program runs: there is nothing to keep.
-    if (!entries && (error == QLatin1String(ErrorText::FileEmpty) || !QFile::exists(mPath))) {
+    if (!entries && holdsNothing(error)) {
         error.clear();
         return Entries{};
     }
@@ -195,19 +200,24 @@ bool MultiActionStore::writeAll(const QVector<MultiActionEntry> &entries, QStrin
     return writeFile(entries, error);
 }
 
-QVector<MultiAction> MultiActionStore::readActionsByKeyId(int lid, int pageid, int kid) const
+std::optional<QVector<MultiAction>> MultiActionStore::findActions(int lid, int pageid, int kid) const
 {
     Log(LogLevel::Debug, LogText::ReadActionsKey, lid, pageid, kid);
     QString error;
     auto entries = readAll(error);
     if (!entries) {
         Log(LogLevel::Error, LogText::ReadFailed, qUtf8Printable(error));
-        return {};
+        return holdsNothing(error) ? std::make_optional(QVector<MultiAction>{}) : std::nullopt;
     }
     const auto found = findEntry(*entries, {lid, pageid, kid});
     const QVector<MultiAction> actions = found != entries->end() ? found->actions : QVector<MultiAction>{};
     Log(LogLevel::Debug, LogText::ReadActions, actions.size());
     return actions;
+}
+
+QVector<MultiAction> MultiActionStore::readActionsByKeyId(int lid, int pageid, int kid) const
+{
+    return findActions(lid, pageid, kid).value_or(QVector<MultiAction>{});
 }
 
 bool MultiActionStore::writeActionsByKeyId(int lid, int pageid, int kid, const QVector<MultiAction> &actions,

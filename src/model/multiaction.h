@@ -39,7 +39,10 @@ public:
     std::optional<QVector<MultiActionEntry>> readAll(QString &error) const;
     bool writeAll(const QVector<MultiActionEntry> &entries, QString &error) const;
 
-    QVector<MultiAction> readActionsByKeyId(int lid, int pageid, int kid) const; ///< empty when absent
+    /// @return the key's steps, empty when it has none; nothing when the file holds what cannot be read.
+    std::optional<QVector<MultiAction>> findActions(int lid, int pageid, int kid) const;
+    /// The same for those who need not tell the two apart: empty also when the file cannot be read.
+    QVector<MultiAction> readActionsByKeyId(int lid, int pageid, int kid) const;
     /// Replaces the key's entry, which keeps its place in the file, or appends one. Creates a file that is
     /// missing.
     bool writeActionsByKeyId(int lid, int pageid, int kid, const QVector<MultiAction> &actions,
@@ -61,6 +64,7 @@ private:
     /// Changes the entries; @return false when there is nothing to write.
     using Change = std::function<bool(QVector<MultiActionEntry> &entries)>;
     bool rewrite(const Change &change, QString &error);
+    bool holdsNothing(const QString &error) const;
     std::optional<QVector<MultiActionEntry>> readForChange(QString &error) const;
     std::optional<QVector<MultiActionEntry>> readFile(QString &error) const;
     bool writeFile(const QVector<MultiActionEntry> &entries, QString &error) const;

@@ -49,7 +49,8 @@ bool replacePicture(const QString &path, const QImage &image)
     Paths::createPath(QFileInfo(path).path());
     makeReplaceable(path);
     QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && image.save(&file, "PNG") && file.commit();
+    // Flushed here, since commit() does not notice when the rest of the buffer finds a full disk.
+    return file.open(QIODevice::WriteOnly) && image.save(&file, "PNG") && file.flush() && file.commit();
 }
 
 } // namespace vorlinmodel

@@ -12,11 +12,12 @@ std::optional<QByteArray> readWholeFile(const QString &path, QString &error, qin
         error = file.errorString();
         return std::nullopt;
     }
-    if (file.size() > limit) {
+    // One byte more than allowed, since an endless device has no size.
+    const QByteArray bytes = file.read(limit + 1);
+    if (bytes.size() > limit) {
         error = QStringLiteral("larger than %1 bytes").arg(limit);
         return std::nullopt;
     }
-    const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError) {
         error = file.errorString();
         return std::nullopt;
@@ -27,8 +28,9 @@ std::optional<QByteArray> readWholeFile(const QString &path, QString &error, qin
 bool writeWholeFile(const QString &path, const QByteArray &bytes, QString &error)
 {
     QSaveFile file(path);
-    // A write that fell short cancels the commit, so the three results come to one.
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+    // Flushed here, since commit() does not notice when the rest of the buffer finds a full disk: it would
+    // put what little was written in place of the old file.
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit())
         return true;
     error = file.errorString();
     return false;

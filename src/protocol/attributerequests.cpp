@@ -11,7 +11,6 @@
 #include "wire/keyrecord.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace vorlinmodel {
 namespace {
@@ -141,11 +140,15 @@ void writeTextOutput(const Write &write)
     write.context.protocol.sendInBlocks(TextOutputTransfer);
 }
 
-QVector<ActionList::Action> actionsOf(const key_id_t &key)
+/// @return nothing when the file with the lists cannot be read.
+std::optional<QVector<ActionList::Action>> actionsOf(const key_id_t &key)
 {
-    QVector<ActionList::Action> actions;
     Log(LogLevel::Debug, Text::MultiActionKey, key.lid, key.pageid, key.kid);
-    for (const MultiAction &step : multiActionStore().readActionsByKeyId(key.lid, key.pageid, key.kid)) {
+    const auto steps = multiActionStore().findActions(key.lid, key.pageid, key.kid);
+    if (!steps)
+        return std::nullopt;
+    QVector<ActionList::Action> actions;
+    for (const MultiAction &step : *steps) {
         Log(LogLevel::Debug, Text::MultiActionStep, step.fid, step.delay, qUtf8Printable(step.url));
         actions << ActionList::Action{static_cast<qint8>(step.fid), step.delay, step.url};
     }
@@ -167,13 +170,15 @@ void logActionList(const key_id_t &key, const QVector<ActionList::Action> &actio
 void writeMultiActions(const Write &write)
 {
     Log(LogLevel::Info, Text::MultiActions, write.key.lid, write.key.pageid);
-    const QVector<ActionList::Action> actions = actionsOf(write.key);
-    const ActionList::Encoded encoded = ActionList::encode(actions);
-    logActionList(write.key, actions, encoded);
-    if (encoded.value.size() - ActionList::LengthSize > std::numeric_limits<quint16>::max()) {
-        Log(LogLevel::Error, "%s", MultiActionsTransfer.failure); // the length field could not hold it
+    const auto actions = actionsOf(write.key);
+    const ActionList::Encoded encoded = ActionList::encode(actions.value_or(QVector<ActionList::Action>{}));
+    // The panel keeps the list that it has: an empty one for a file that cannot be read, or the part for
+    // which the length field has room, would only destroy it.
+    if (!actions || encoded.omitted > 0) {
+        Log(LogLevel::Error, "%s", MultiActionsTransfer.failure);
         return;
     }
+    logActionList(write.key, *actions, encoded);
     build(write, AttributeId::MultiActions, encoded.value);
     write.context.protocol.sendInBlocks(MultiActionsTransfer);
 }
@@ -203,8 +208,11 @@ std::optional<QByteArray> readVideo(const QString &path)
 
 bool sendVideo(const Write &write)
 {
-    const std::optional<QByteArray> video =
-        write.record ? readVideo(write.record->defaultImage) : std::nullopt;
+    if (!write.record) {
+        Log(LogLevel::Info, Text::NoKeyRecord, write.key.lid, write.key.pageid, write.key.kid);
+        return false;
+    }
+    const std::optional<QByteArray> video = readVideo(write.record->defaultImage);
     if (!video)
         return false;
     build(write, AttributeId::Video, AttributeValue::file(*video));

@@ -29,7 +29,7 @@ public:
     /// Emits sigDealExecCommand on behalf of the model, which cannot see this class. Any thread.
     void execCommand(int fid, const QString &command) { emit sigDealExecCommand(fid, command); }
 
-signals: // all emitted on this thread
+signals: // all emitted on this thread, except by execCommand()
     void sigUsbConnectState(bool isConnect);
     void logMessageSignal(const QString &message); ///< a line for the upgrade dialog
     /// A whole message. @p recvData is valid only until the signal returns: connect directly and copy.

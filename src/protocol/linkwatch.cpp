@@ -2,15 +2,17 @@
 
 namespace vorlinmodel {
 
-bool LinkWatch::checkIsDue(bool openBeforePoll, bool openNow, qint64 nowMs)
+bool LinkWatch::checkIsDue(const Link &beforePoll, const Link &now, qint64 nowMs)
 {
-    const bool broke = mWasOpen && !(openBeforePoll && openNow);
+    // Closed now, but not all the time since the last pass: also when a request opened it and broke it again.
+    const bool brokeBeforePoll = !beforePoll.open && beforePoll.openCount != mOpenCount;
+    const bool broke = !now.open && now.openCount != mOpenCount;
     const bool found =
-        openNow && !openBeforePoll && (mWasDown || broke); // the very first opening is no return
-    if (found || (broke && !openNow))
+        now.open && !beforePoll.open && (mWasDown || brokeBeforePoll); // the first opening is no return
+    if (found || broke)
         mWanted = true;
-    mWasDown = !openNow;
-    mWasOpen = openNow;
+    mWasDown = !now.open;
+    mOpenCount = now.openCount;
     if (!mWanted || (mLastCheck && nowMs - *mLastCheck < Pause))
         return false;
     mWanted = false;

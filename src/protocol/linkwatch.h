@@ -14,14 +14,20 @@ public:
     static constexpr int Pause =
         500; ///< ms between two checks: a panel that fails every write is not asked nonstop
 
-    /// Once per pass, after polling: whether the transport was open before the poll and is open now, at @p
-    /// nowMs.
+    /// The transport at one moment.
+    struct Link
+    {
+        bool open = false;
+        int openCount = 0; ///< grows with every opening and every closing
+    };
+
+    /// Once per pass, with the link as it was before the poll and as it is after it, at @p nowMs.
     /// @return true when the state is to be checked now.
-    bool checkIsDue(bool openBeforePoll, bool openNow, qint64 nowMs);
+    bool checkIsDue(const Link &beforePoll, const Link &now, qint64 nowMs);
 
 private:
-    bool mWasOpen = false; // at the end of the last pass
-    bool mWasDown = false; // an attempt to open failed, or the link broke
+    int mOpenCount = 0;    // at the end of the last pass
+    bool mWasDown = false; // there: an attempt to open had failed, or the link had broken
     bool mWanted = false;
     std::optional<qint64> mLastCheck;
 };

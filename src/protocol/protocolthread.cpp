@@ -18,8 +18,10 @@ ProtocolThread::ProtocolThread(const IFunctionManager &store, QObject *parent)
 ProtocolThread::~ProtocolThread()
 {
     ProtocolThread::stop();
-    wait(); // a thread that is stuck in the system's HID calls cannot be left behind: it would use freed
-            // memory
+    wait(); // a thread that is stuck in the system's HID calls cannot be left: it would use freed memory
+    // Qt's own hand-over at the end of a thread is invisible to the thread checker; this one is not.
+    if (mpShared->running)
+        qFatal("the protocol thread outlived its object");
     if (mpWorker)
         mpWorker->uninitialise();
 }

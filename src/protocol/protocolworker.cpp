@@ -116,6 +116,7 @@ void ProtocolWorker::run()
     while (!mThread.isInterruptionRequested())
         pass();
     mpTransfer->close();
+    mProtocol.dropReassembly(); // and with it the raised timer resolution
 }
 
 void ProtocolWorker::pass()
@@ -163,9 +164,10 @@ void ProtocolWorker::process(const Request &request)
 
 void ProtocolWorker::pollPanel()
 {
-    const bool openBefore = mpTransfer->isOpen();
+    const LinkWatch::Link before{mpTransfer->isOpen(), mpTransfer->openCount()};
     mProtocol.poll();
-    if (mLinkWatch.checkIsDue(openBefore, mpTransfer->isOpen(), steadyMilliseconds()))
+    const LinkWatch::Link now{mpTransfer->isOpen(), mpTransfer->openCount()};
+    if (mLinkWatch.checkIsDue(before, now, steadyMilliseconds()))
         mShared.queue.post(stateCheck());
 }
 

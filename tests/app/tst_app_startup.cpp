@@ -115,14 +115,30 @@ private slots:
             vorlindesk::FrameworkContext context;
             QCOMPARE(context.start(count, arguments, dir.path()), hidWorks);
             if (hidWorks) {
+                QVERIFY(!QApplication::windowIcon().isNull());
                 QTimer::singleShot(0, qApp, &QCoreApplication::quit);
                 QVERIFY(!context.run());
                 QVERIFY(QFileInfo::exists(dir.filePath(QStringLiteral("devConfig/system.ini"))));
+            } else {
+                QVERIFY(context.startFailure().contains(QStringLiteral("/log\n")));
             }
         }
         QDir::setCurrent(before);
         vorlindesk::setLogSink({});
         QTEST(lines, "log");
+    }
+
+    /// There is no log then that could be pointed to.
+    void unusableDataFolderIsToldOnTheTerminal()
+    {
+        QTemporaryFile inTheWay;
+        QVERIFY(inTheWay.open());
+        char name[] = "vorlindesk";
+        char *arguments[] = {name, nullptr};
+        int count = 1;
+        vorlindesk::FrameworkContext context;
+        QVERIFY(!context.start(count, arguments, inTheWay.fileName() + QStringLiteral("/data")));
+        QVERIFY(context.startFailure().contains(QStringLiteral("no folder")));
     }
 };
 

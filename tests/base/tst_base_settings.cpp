@@ -138,6 +138,14 @@ private slots:
             << QStringLiteral("\\\\?\\hid#vid_4869&col02") << 3;
         QTest::newRow("Linux path") << QByteArray("[General]\nHidDevicePath=/dev/hidraw3\n")
                                     << QStringLiteral("/dev/hidraw3") << 0;
+        QTest::newRow("byte order mark")
+            << QByteArray("\xEF\xBB\xBF[General]\r\nHidDevicePath=/dev/hidraw3\r\n")
+            << QStringLiteral("/dev/hidraw3") << 0;
+        QTest::newRow("group as the library writes it")
+            << QByteArray("[%General]\nHidDevicePath=/dev/hidraw3\nversion=3\n")
+            << QStringLiteral("/dev/hidraw3") << 3;
+        QTest::newRow("damaged: the rest counts, and nothing is written beside the program")
+            << QByteArray("[General]\nversion=3\nHidDev") << QString() << 3;
         QTest::newRow("no group General")
             << QByteArray("[Other]\nHidDevicePath=/dev/hidraw3\nversion=3\n") << QString() << 0;
         QTest::newRow("keys in no group")
@@ -160,6 +168,7 @@ private slots:
         QCOMPARE(capture.lines(), QStringList{QStringLiteral("1 strIniFile:%1 strDevicePath:%2 ver:%3")
                                                   .arg(path, devicePath)
                                                   .arg(version)});
+        QCOMPARE(QDir(mDir->path()).entryList(QDir::Files), QStringList{QStringLiteral("quorradent_md.ini")});
     }
 
     void damagedFileIsKeptAside_data()

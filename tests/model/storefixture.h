@@ -12,6 +12,11 @@
 #include <QTemporaryDir>
 #include <mutex>
 
+#ifndef Q_OS_WIN
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
 /// A fresh data folder as the current directory, and the log lines that are written while it lives.
 class StoreFixture
 {
@@ -59,6 +64,30 @@ private:
     std::mutex mMutex;
     QStringList mLines;
 };
+
+#ifndef Q_OS_WIN
+/// While it lives, no file can grow beyond 20 bytes: writes fail as they do on a full disk.
+class FullDisk
+{
+public:
+    FullDisk()
+    {
+        getrlimit(RLIMIT_FSIZE, &mBefore);
+        const rlimit full{20, mBefore.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &full);
+    }
+
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &mBefore);
+        std::signal(SIGXFSZ, mHandler);
+    }
+
+private:
+    void (*mHandler)(int) = std::signal(SIGXFSZ, SIG_IGN); // else the first such write ends the program
+    rlimit mBefore{};
+};
+#endif
 
 inline QString u(const char *utf8)
 {

@@ -335,6 +335,23 @@ private slots:
         QVERIFY(mpStore->getCustomImage({1, 2, 3}).isEmpty());
     }
 
+#ifndef Q_OS_WIN
+    void pictureOnAFullDiskKeepsTheOldOne()
+    {
+        load(page(record(3, 5)));
+        takePicture(3, picture({4, 4}, Qt::red));
+        const QByteArray blue = picture({4, 4}, Qt::blue);
+        {
+            const FullDisk fullDisk;
+            takePicture(3, blue);
+        }
+        const QString path = mpFixture->path("devConfig/image/1_2_3.png");
+        QVERIFY(mpFixture->takeLines().contains(u("3 ----save -image failed[%1]-------").arg(path)));
+        QCOMPARE(QImage(path).pixelColor(0, 0), QColor(Qt::red));
+        QCOMPARE(pictures(), QStringList{u("1_2_3.png")});
+    }
+#endif
+
     void otherAttributes()
     {
         const QByteArray tooShort = hex("01020309");

@@ -149,6 +149,22 @@ private slots:
         QCOMPARE(testFileContent(path("devConfig/system.ini")), QByteArray("saved system.ini"));
     }
 
+#ifndef Q_OS_WIN
+    void restoreOnAFullDiskKeepsTheOldFiles()
+    {
+        fill("in", QByteArray(1000, 's'));
+        fill("devConfig", "old ");
+        {
+            const FullDisk fullDisk;
+            QVERIFY(!ConfigBackup::restoreSettingsFiles(path("in")));
+        }
+        QCOMPARE(QDir(path("devConfig")).entryList(QDir::Files, QDir::Name),
+                 QStringList({u("customLayout.ini"), u("multiActions.json"), u("system.ini")}));
+        QCOMPARE(testFileContent(path("devConfig/system.ini")), QByteArray("old system.ini"));
+        QCOMPARE(mpFixture->takeLines().filter(u("3 Failed to restore  [")).size(), 3);
+    }
+#endif
+
     void safeDelete()
     {
         QVERIFY(ConfigBackup::safeDelete(path("nothing")));

@@ -178,6 +178,28 @@ private slots:
                  QStringList(QStringLiteral("2 action 4 of lid:1 pageid:2 kid:3 is cut to 128 bytes")));
     }
 
+    void actionListThatCannotBeSent_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        const QByteArray step = R"({"fid":2,"url":"/a"},)"; // 131 bytes each on the wire
+        QTest::newRow("longer than its length field can tell")
+            << R"({"keyInfo":[{"layid":1,"pageid":2,"keyid":3,"actions":[)" + step.repeated(501).chopped(1) +
+                   "]}]}";
+        QTest::newRow("damaged file") << QByteArray("{");
+    }
+
+    void actionListThatCannotBeSent()
+    {
+        QFETCH(QByteArray, file);
+        ThreadFixture fixture;
+        fixture.store.createKeyAttribute(Key, vorlinmodel::MULTIPLE_ACTIONS_FID);
+        writeFile(QStringLiteral("devConfig/multiActions.json"), file);
+        fixture.post(RequestKind::MD_FUNCTION_CODE_KEY_ATTRIBUTE, 1, 2, 3, 0, 15);
+        fixture.thread.start();
+        QTRY_VERIFY(fixture.log.lines().contains(QStringLiteral("3 transfer MultiActions error")));
+        QVERIFY(fixture.messages().isEmpty()); // the panel keeps what it has
+    }
+
     void pictureTravelsUnderTheIdOfTheRequest_data()
     {
         QTest::addColumn<quint32>("id");

@@ -19,7 +19,7 @@ private slots:
         ThreadFixture fixture;
         fixture.thread.start();
         fixture.post(RequestKind::MD_FUNCTION_CODE_HARDWARE_VERSION);
-        QTRY_COMPARE(fixture.events(), QStringList(QStringLiteral("connected")));
+        QTRY_COMPARE(fixture.messages(), QStringList(QStringLiteral("03")));
         QElapsedTimer stopwatch;
         stopwatch.start();
         fakeHid().setPresent(false);
@@ -50,6 +50,26 @@ private slots:
         fixture.thread.start();
         QTRY_VERIFY(fakeHid().readTimeouts().size() >= 2);
         fakeHid().failNextRead();
+        QTRY_COMPARE(fixture.messages(), QStringList(VersionRequest));
+    }
+
+    /// The request that opens the panel is the one that it does not survive.
+    void unpluggedWithinTheFirstRequest()
+    {
+        ThreadFixture fixture;
+        fakeHid().setOnWrite([](const QByteArray &) { fakeHid().setPresent(false); });
+        fixture.post(RequestKind::MD_FUNCTION_CODE_HARDWARE_VERSION);
+        fixture.thread.start();
+        QTRY_COMPARE(fixture.events(),
+                     QStringList({QStringLiteral("connected"), QStringLiteral("disconnected")}));
+    }
+
+    void writeErrorWithinTheFirstRequest()
+    {
+        ThreadFixture fixture;
+        fakeHid().failWriteAfter(0);
+        fixture.post(RequestKind::MD_FUNCTION_CODE_HARDWARE_VERSION);
+        fixture.thread.start();
         QTRY_COMPARE(fixture.messages(), QStringList(VersionRequest));
     }
 

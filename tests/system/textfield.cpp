@@ -1,8 +1,9 @@
 // A text field of another program, for tests that watch what vorlindesk types.
 //
 // Usage: textfield FILE
-// Shows a window with one text field that takes the focus, and keeps FILE equal to what the field holds, in UTF-8.
-// FILE comes into being (empty) when the field has the focus, so a test knows from it when it may start.
+// Shows a window with one text field that takes the focus, and keeps FILE equal to what the field holds, in
+// UTF-8. FILE comes into being (empty) when the field has the focus, so a test knows from it when it may
+// start.
 #include <QApplication>
 #include <QPlainTextEdit>
 #include <QSaveFile>
@@ -13,7 +14,8 @@ namespace {
 class TextField : public QPlainTextEdit
 {
 public:
-    explicit TextField(const QString &file) : mFile(file)
+    explicit TextField(const QString &file)
+        : mFile(file)
     {
         setWindowTitle(QStringLiteral("textfield"));
         resize(480, 160);
@@ -33,7 +35,8 @@ private:
     {
         QSaveFile file(mFile);
         if (!file.open(QIODevice::WriteOnly) || file.write(toPlainText().toUtf8()) < 0 || !file.commit()) {
-            std::fprintf(stderr, "cannot write %s: %s\n", qUtf8Printable(mFile), qUtf8Printable(file.errorString()));
+            std::fprintf(stderr, "cannot write %s: %s\n", qUtf8Printable(mFile),
+                         qUtf8Printable(file.errorString()));
             QCoreApplication::exit(1);
         }
     }

@@ -1,5 +1,6 @@
-/// The real program, the virtual panel behind the drop-in HID library, a stand-in for the browser and the window of
-/// another program, all on one X display. Each case goes on where the one before it ended, as a person would.
+/// The real program, the virtual panel behind the drop-in HID library, a stand-in for the browser and the
+/// window of another program, all on one X display. Each case goes on where the one before it ended, as a
+/// person would.
 #include <QDir>
 #include <QElapsedTimer>
 #include <QJsonArray>
@@ -57,7 +58,8 @@ public:
 private:
     QString readLine()
     {
-        while (!mProcess.canReadLine() && mProcess.waitForReadyRead(Patience)) {}
+        while (!mProcess.canReadLine() && mProcess.waitForReadyRead(Patience)) {
+        }
         return QString::fromUtf8(mProcess.readLine()).trimmed();
     }
 
@@ -132,7 +134,8 @@ QString tst_system_roundtrip::log() const
 
 QStringList tst_system_roundtrip::pictures() const
 {
-    return QDir(mFolder.filePath(text("data/devConfig/image"))).entryList({text("*.png")}, QDir::Files, QDir::Name);
+    return QDir(mFolder.filePath(text("data/devConfig/image")))
+        .entryList({text("*.png")}, QDir::Files, QDir::Name);
 }
 
 QStringList tst_system_roundtrip::expectedPictures()
@@ -171,9 +174,10 @@ void tst_system_roundtrip::hasTheWholeConfiguration()
     QTRY_VERIFY_WITH_TIMEOUT(count("Configuration read: 29 keys on 3 pages") == 1, Patience);
     QCOMPARE(pictures(), expectedPictures());
     // Records of the store, by what it says of them: function, title and content of keys of each kind.
-    for (const char *record : {"pageid:1 kid:3 mFId:3 strTitle[Web] strAppOrUrl[https://example.com/]",
-                               "pageid:1 kid:10 mFId:16 strTitle[Copy] strAppOrUrl[Left Ctrl#C#undefine#undefine]",
-                               "pageid:12 kid:15 mFId:19 strTitle[Return] strAppOrUrl[]"})
+    for (const char *record :
+         {"pageid:1 kid:3 mFId:3 strTitle[Web] strAppOrUrl[https://example.com/]",
+          "pageid:1 kid:10 mFId:16 strTitle[Copy] strAppOrUrl[Left Ctrl#C#undefine#undefine]",
+          "pageid:12 kid:15 mFId:19 strTitle[Return] strAppOrUrl[]"})
         QVERIFY2(log().contains(text(record)), record);
     QVERIFY(log().contains(QStringLiteral("strTitle[问候] strAppOrUrl[Hello, 你好!]")));
     const QString actions = contentOf(mFolder.filePath(text("data/devConfig/multiActions.json")));
@@ -207,7 +211,8 @@ void tst_system_roundtrip::typesIntoTheWindowThatHasTheFocus()
     QVERIFY(mPanel.tell("press 5"));
     QTRY_COMPARE_WITH_TIMEOUT(contentOf(typed), QStringLiteral("Hello, 你好!"), Patience);
     QVERIFY(mPanel.tell("press 15"));
-    QTRY_COMPARE_WITH_TIMEOUT(contentOf(typed), QStringLiteral("Hello, 你好!Kind regards\n此致敬礼"), Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(contentOf(typed), QStringLiteral("Hello, 你好!Kind regards\n此致敬礼"),
+                              Patience);
 }
 
 void tst_system_roundtrip::runsAListThatThePanelHandsOver()

@@ -122,6 +122,16 @@ private slots:
         QCOMPARE(capture.count("[1] --recv key image-nTotal[2]-nRecvNum[1]"), 1);
     }
 
+    void emptyPageEndsTheCountOfThePageBefore()
+    {
+        QCOMPARE(handle({PanelMessage::page(1, 2, 2), PanelMessage::picture(1, 2, 3),
+                         PanelMessage::message(8, QByteArray::fromHex("0307"))}),
+                 QStringList({QStringLiteral("page 1 2 2 0"), QStringLiteral("record 2 1"),
+                              QStringLiteral("page 3 7 0 0"), QStringLiteral("complete")}));
+        QCOMPARE(mStore.getReceivedCounts().total, 0);
+        QCOMPARE(mStore.getReceivedCounts().current, 0);
+    }
+
     void homeLayoutGoesToTheSettings()
     {
         // Layout 2; key 4 leads to page 5 of layout 1 with sum 3; key 6 has nothing set.

@@ -298,6 +298,32 @@ private slots:
         QVERIFY(label("activity") != QStringLiteral("Looking for the panel..."));
     }
 
+    /// What arrived before the link broke is decoded after it; more pages may have been on their way.
+    void readThatLooksCompleteAfterTheLinkBrokeIsRepeated()
+    {
+        mpContext->store.setRecordPause(20);
+        mpContext->thread.sigUsbConnectState(true);
+        startReading();
+        receive(PanelMessage::page(1, 1, 1));
+        receive(PanelMessage::picture(1, 1, 1));
+        mpContext->thread.sigUsbConnectState(false);
+        QTRY_COMPARE(mpLog->count("Configuration read: 1 keys on 1 pages"), 1);
+        QCOMPARE(mpContext->requests, QStringList());
+        receive(PanelMessage::softwareVersion());
+        settle();
+        QCOMPARE(mpContext->requests, ReadRequest);
+    }
+
+    void answerDecodedAfterTheLinkBrokeDoesNotShowThePanelAsConnected()
+    {
+        receive(PanelMessage::message(13, QByteArray(2, '\0'))); // takes its worker 100 ms
+        receive(PanelMessage::softwareVersion());
+        mpContext->thread.sigUsbConnectState(false);
+        settle();
+        QCOMPARE(label("softwareVersion"), QStringLiteral("PIC Software Version: SW 3.4"));
+        QCOMPARE(label("activity"), QStringLiteral("Looking for the panel..."));
+    }
+
     void timeOutBoxSaysWhatFailed_data()
     {
         QTest::addColumn<int>("requestId");

@@ -33,6 +33,8 @@ private slots:
             << QStringLiteral("é한 ") << hex("A8 A6") + QByteArray("? ") << QStringLiteral("한");
         QTest::newRow("each lacking one listed once")
             << QStringLiteral("한国한ไ") << hex("3F B9 FA 3F 3F") << QStringLiteral("한ไ");
+        QTest::newRow("half a pair spoils nothing behind it")
+            << QString(QChar(0xD83D)) + QStringLiteral("中") << hex("3F D6 D0") << QString(QChar(0xD83D));
         QTest::newRow("lone surrogate")
             << QString(QChar(0xD83D)) << QByteArray("?") << QString(QChar(0xD83D));
     }

@@ -5,6 +5,7 @@
 #include <QDate>
 #include <QDateTime>
 #include <QDir>
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdio>

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QStandardPaths>
 #include <QTemporaryFile>
+#include <algorithm>
 
 namespace vorlindesk::Paths {
 namespace {

@@ -47,11 +47,24 @@ bool hasGeneralGroup(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return false;
+    static constexpr char ByteOrderMark[] = "\xEF\xBB\xBF"; // some editors put it in front of UTF-8
     while (!file.atEnd()) {
-        if (file.readLine().trimmed().toLower() == "[general]")
+        QByteArray line = file.readLine();
+        if (line.startsWith(ByteOrderMark))
+            line.remove(0, 3);
+        line = line.trimmed();
+        if (line.startsWith('[') && line.mid(1, line.indexOf(']') - 1).trimmed().toLower() == "general")
             return true;
     }
     return false;
+}
+
+/// @return the value of "General/@p key". A group that was typed as "[General]" has keys without a group to
+/// the library; one that the library wrote, "[%General]", has not.
+QVariant generalValue(const QSettings &settings, bool hasGroup, const QString &key)
+{
+    const QVariant written = settings.value(QLatin1String("General/") + key);
+    return written.isValid() || !hasGroup ? written : settings.value(key);
 }
 
 } // namespace
@@ -120,12 +133,11 @@ DeviceRecord deviceRecord()
 DeviceRecord deviceRecord(const QString &path)
 {
     DeviceRecord record;
-    if (hasGeneralGroup(path)) {
-        // The library leaves the name of the group "General" out of its keys.
-        IniFile file(path);
-        record.devicePath = file->value(QStringLiteral("HidDevicePath")).toString();
-        record.version = file->value(QStringLiteral("version")).toInt();
-    }
+    QSettings settings(path, QSettings::IniFormat); // no IniFile: nothing is ever written beside the program
+    settings.setIniCodec("utf-8");
+    const bool hasGroup = hasGeneralGroup(path);
+    record.devicePath = generalValue(settings, hasGroup, QStringLiteral("HidDevicePath")).toString();
+    record.version = generalValue(settings, hasGroup, QStringLiteral("version")).toInt();
     Log(LogLevel::Info, LogText::DeviceRecord, qUtf8Printable(path), qUtf8Printable(record.devicePath),
         record.version);
     return record;

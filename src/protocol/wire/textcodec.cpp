@@ -28,8 +28,9 @@ public:
     {
         if (character.size() == 1 && character.front().unicode() < 0x80)
             return QByteArray(1, Bytes::low(character.front().unicode()));
-        if (character.size() != 1 || mpCodec == nullptr)
-            return {}; // GBK ends with the basic plane
+        // GBK ends with the basic plane. Half a pair would wait in the codec and spoil the next character.
+        if (character.size() != 1 || character.front().isSurrogate() || mpCodec == nullptr)
+            return {};
         mState.invalidChars = 0;
         const QByteArray bytes = mpCodec->fromUnicode(character.data(), 1, &mState);
         return mState.invalidChars == 0 && isDoubleByte(bytes) ? bytes : QByteArray();

@@ -21,7 +21,6 @@ inline constexpr char ReceiveEnd[] = "--------------dealRecvData-----end--\n";
 inline constexpr char KeyAttribute[] =
     "----saveKeyAttrByDevconfig Layoutid[%d] Pageid[%d] Keyid[%d] nAttrbuteid[%d]\n";
 inline constexpr char KeyImages[] = "--recv key image-nTotal[%d]-nRecvNum[%d]\n";
-inline constexpr char EmptyPage[] = "device key is empty Layoutid[%d] Pageid[%d]\n";
 inline constexpr char DeleteCustomLayout[] = "----------------sigDeleteCustomPanelLayout\n";
 inline constexpr char LcdLight[] = "--------------MD_FUNCTION_CODE_LCD_LIGHT-----light:%d %d\n";
 inline constexpr char HomeLayoutReceived[] = "--------------MD_FUNCTION_CODE_HOME_LAYOUT-----\n";

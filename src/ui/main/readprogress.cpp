@@ -39,7 +39,6 @@ void ReadProgress::pageComplete()
         return;
     mPageReceived = mPageTotal;
     mState = State::PageRead;
-    mInterrupted = false;
 }
 
 bool ReadProgress::finish()

@@ -79,15 +79,6 @@ void ReceivedDataHandler::handlePage(const View &view, bool firstPage)
     else if (view.bodySize >= EmptyPageSize)
         vorlinmodel::removePagePictures(view.body[0], view.body[1]);
 
-    if (view.bodySize == EmptyPageSize) {
-        const int layoutId = view.body[0];
-        const int pageId = view.body[1];
-        Log(LogLevel::Info, LogText::EmptyPage, layoutId, pageId);
-        mHandOver.post([this, layoutId, pageId, firstPage] {
-            mReceiver.onPageReceived(layoutId, pageId, 0, firstPage);
-        });
-        return postComplete();
-    }
     const auto page = mStore.saveAllKeyAttrByDevconfig(view.body, view.bodySize);
     if (!page)
         return;
@@ -95,6 +86,8 @@ void ReceivedDataHandler::handlePage(const View &view, bool firstPage)
     mHandOver.post([this, id = *page, keyCount, firstPage] {
         mReceiver.onPageReceived(id.lid, id.pageid, keyCount, firstPage);
     });
+    if (view.bodySize == EmptyPageSize) // no picture will come that could complete it
+        postComplete();
 }
 
 void ReceivedDataHandler::handleKeyAttribute(const View &view)

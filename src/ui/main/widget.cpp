@@ -13,8 +13,6 @@
 #include "statusframe.h"
 #include "style.h"
 #include "waitingspinnerwidget.h"
-#include "wire/customlayout.h"
-#include "wire/functioncode.h"
 
 #include <QVBoxLayout>
 
@@ -31,24 +29,12 @@ constexpr int AskVersionInterval = 2000;
 constexpr int SyncStartedInterval = 3000;
 constexpr int PollInterval = 30000;
 constexpr int ReadShowTime = 100000;
-constexpr int NextPageTimeout = 1000;
-constexpr int NextRecordTimeout = 10000;
 
 constexpr int VersionArgument = 10; // what the requests carry in their value; the panel is not sent it
 constexpr int ReadArgument = 60;
 
 constexpr QSize DefaultSize(1024, 640);
 constexpr QSize TimeoutBoxSize(200, 100);
-
-int readWaitingTime(int total, int received)
-{
-    return ((total - received) + 10) * 1000;
-}
-
-constexpr int code(FunctionCode functionCode)
-{
-    return static_cast<int>(functionCode);
-}
 
 } // namespace
 
@@ -182,7 +168,7 @@ void Widget::slotTimerSyncOut()
     if (mpMainFrame->isTransferInProgress())
         return;
     // Without a panel the question is asked over and over, but said only once.
-    if (!mAskedForVersion || mConnected)
+    if (!mAskedForVersion || mConnected || !mIsFirstSync)
         Log(LogLevel::Info, LogText::FirstSync, mIsFirstSync ? 1 : 0);
     if (mIsFirstSync) {
         mAskedForVersion = true;
@@ -202,7 +188,7 @@ void Widget::readConfiguration()
     mReadIncomplete = false;
     mProgress.begin();
     mpStore->setModeFlag(true);
-    mContext.showWaitingDialog(code(FunctionCode::MD_FUNCTION_CODE_READ_CONFIGFILE), ReadShowTime);
+    mContext.showWaitingDialog(static_cast<int>(RequestKind::MD_FUNCTION_CODE_READ_CONFIGFILE), ReadShowTime);
     mContext.sendRequest(RequestKind::MD_FUNCTION_CODE_READ_CONFIGFILE, ReadArgument);
     showActivity();
 }
@@ -223,130 +209,6 @@ void Widget::onPollTimeout()
         mpMainFrame->isTransferInProgress())
         return;
     mContext.sendRequest(RequestKind::MD_FUNCTION_CODE_SOFTWARE_VERSION, VersionArgument);
-}
-
-void Widget::slotDealRecvData(const quint8 *recvData, int nBufferLen)
-{
-    ReceivedMessage message;
-    message.bytes = QByteArray(reinterpret_cast<const char *>(recvData), qMax(0, nBufferLen));
-    // Settled here, in the order of arrival, since a worker may come to a page long after the next read was
-    // asked for.
-    if (nBufferLen > 0 && recvData[0] == code(FunctionCode::MD_FUNCTION_CODE_READ_CONFIGFILE))
-        message.firstPage = mProgress.takeFirstPage();
-    mWorkers.start([this, message] { mpReceivedData->handle(message); });
-}
-
-void Widget::onPageReceived(int layoutId, int pageId, int keyCount, bool first)
-{
-    mProgress.pageReceived(keyCount);
-    if (first)
-        mpMainFrame->showPage(layoutId, pageId);
-    else if (layoutId == mpMainFrame->curLayoutId() && pageId == mpMainFrame->curPageId())
-        mpMainFrame->refreshKeys();
-    watchRead();
-}
-
-void Widget::onRecordReceived(int total, int received)
-{
-    mProgress.pictureReceived(total, received);
-    if (total > 0 && received > 0)
-        emit sigUpdateWaitingDialogTime(readWaitingTime(total, received));
-    watchRead();
-}
-
-void Widget::onConfigurationComplete()
-{
-    mProgress.pageComplete();
-    mContext.hideWaitingDialog();
-    mpStore->setModeFlag(false);
-    Log(LogLevel::Info, LogText::RefreshAll, mpMainFrame->curLayoutId(), mpMainFrame->curPageId());
-    mpMainFrame->refreshKeys();
-    watchRead();
-}
-
-/// While the waiting dialog is up, its time decides how long to wait; for the pages after the first one, this
-/// does.
-void Widget::watchRead()
-{
-    if (!mProgress.isReading() || mpSpinner->isSpinning())
-        mReadEndTimer.stop();
-    else
-        mReadEndTimer.start(mProgress.state() == ReadProgress::State::PageRead ? NextPageTimeout
-                                                                               : NextRecordTimeout);
-    showActivity();
-}
-
-void Widget::finishRead()
-{
-    mReadEndTimer.stop();
-    if (!mProgress.isReading())
-        return;
-    mpStore->setModeFlag(false);
-    mReadIncomplete = !mProgress.finish();
-    if (mReadIncomplete)
-        Log(LogLevel::Warn, LogText::ReadGivenUp, mProgress.keysReceived(), mProgress.keysAnnounced(),
-            mProgress.pages());
-    else
-        Log(LogLevel::Info, LogText::ReadFinished, mProgress.keysReceived(), mProgress.pages());
-    mpMainFrame->refreshKeys();
-    showActivity();
-    if (!mSoftwareVersionKnown && !mReadIncomplete) // else it would be shown only half a minute later
-        onPollTimeout();
-}
-
-void Widget::onTextReceived(int functionCode, const QString &text)
-{
-    if (functionCode == code(FunctionCode::MD_FUNCTION_CODE_LCD_LIGHT) ||
-        functionCode == code(FunctionCode::MD_FUNCTION_CODE_SYSTEM_TYPE))
-        return mpMainFrame->showDeviceValue(functionCode, text);
-    onVersion(functionCode, text);
-}
-
-void Widget::onVersion(int functionCode, const QString &text)
-{
-    mConnected = true;
-    mpStatusFrame->setConnected(true);
-    if (functionCode == code(FunctionCode::MD_FUNCTION_CODE_HARDWARE_VERSION)) {
-        mpStatusFrame->setHardwareVersion(text);
-        if (mIsFirstSync) {
-            mIsFirstSync = false;
-            mpStore->setModeFlag(true);
-            Log(LogLevel::Info, LogText::StartAutoSync);
-            emit sigStartSyncDevInfo();
-        }
-    } else {
-        mSoftwareVersionKnown = true;
-        mpStatusFrame->setSoftwareVersion(text);
-        // Whenever the panel comes (back), the protocol thread asks for this version. In the middle of a read
-        // it means that the rest of the answer is lost.
-        if (mProgress.mustReadAgain()) {
-            Log(LogLevel::Warn, LogText::ReadAgain);
-            readConfiguration();
-        }
-    }
-    showActivity();
-}
-
-void Widget::onHomeLayoutReceived(int layoutId)
-{
-    mpMainFrame->showDeviceValue(code(FunctionCode::MD_FUNCTION_CODE_HOME_LAYOUT), QString::number(layoutId));
-}
-
-void Widget::onCustomLayoutReceived(const QByteArray &payload)
-{
-    constexpr int longestTitle = 24;
-    if (const auto record = CustomLayoutRecord::decode(payload))
-        mpMainFrame->showDeviceValue(code(FunctionCode::MD_FUNCTION_CODE_CUSTOMLAYOUT_SET),
-                                     record->title.simplified().left(longestTitle));
-}
-
-void Widget::onConnectState(bool connected)
-{
-    mConnected = connected;
-    mpStatusFrame->setConnected(connected);
-    if (!connected)
-        mProgress.linkLost();
-    showActivity();
 }
 
 void Widget::slotDealProtocolSendResult(int nResult)

@@ -76,6 +76,8 @@ void PanelDevice::receiveLoop()
 {
     while (receiveFrame()) {
     }
+    mSocket.shutdown(); // the panel may wait for our end: on Windows its own shutdown does not wake its
+                        // receiving
     {
         const std::lock_guard lock(mMutex);
         mGone = true;
