@@ -22,14 +22,17 @@ public:
     LogCapture &operator=(const LogCapture &) = delete;
 
     /// @return the lines so far, "level text".
-    QStringList lines()
+    QStringList lines() const
     {
         const std::lock_guard lock(mMutex);
         return QStringList(mLines.begin(), mLines.end());
     }
+    /// @return those lines that contain @p text.
+    QStringList matching(const char *text) const { return lines().filter(QString::fromUtf8(text)); }
+    int count(const char *text) const { return static_cast<int>(matching(text).size()); }
 
 private:
-    std::mutex mMutex;
+    mutable std::mutex mMutex;
     std::vector<QString>
         mLines; // a list of Qt would share its data with lines(), which the thread checker misreads
 };

@@ -8,6 +8,7 @@
 #include <QColor>
 #include <QDir>
 #include <QImage>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <mutex>
@@ -44,14 +45,7 @@ public:
     }
 
     /// The same, without those at debug level.
-    QStringList takeCalmLines()
-    {
-        QStringList lines = takeLines();
-        lines.erase(std::remove_if(lines.begin(), lines.end(),
-                                   [](const QString &line) { return line.startsWith(QLatin1Char('4')); }),
-                    lines.end());
-        return lines;
-    }
+    QStringList takeCalmLines() { return takeLines().filter(QRegularExpression(QStringLiteral("^[^4]"))); }
 
     QString path(const char *name) const
     {

@@ -8,12 +8,10 @@ using namespace vorlinmodel;
 
 namespace {
 
-constexpr key_id_t Key{1, 2, 3};
-
-/// "0F 00 00" and a payload of 128 bytes that starts with @p content.
+/// Code, no delay, and a payload of 128 bytes that starts with @p content.
 QByteArray entry(char code, const QByteArray &content)
 {
-    return QByteArray(1, code) + QByteArray(2, '\0') + content + QByteArray(128 - content.size(), '\0');
+    return code + QByteArray(2, '\0') + content.leftJustified(128, '\0');
 }
 
 QByteArray hex(const char *text)
@@ -30,11 +28,11 @@ private slots:
     void init()
     {
         mpFixture = std::make_unique<StoreFixture>();
-        mpDesktop = std::make_unique<RecordingDesktop>();
+        mDesktop = {};
         mpStore = std::make_unique<FunctionManager>();
-        mpStore->setDesktop(*mpDesktop);
+        mpStore->setDesktop(mDesktop);
         mpStore->setTextOutput([this](int fid, const QString &text) {
-            mpDesktop->asked << u("type %1 %2").arg(QString::number(fid), text);
+            mDesktop.asked << u("type %1 %2").arg(QString::number(fid), text);
         });
         QVERIFY(mpStore->Init());
         mpFixture->takeLines();
@@ -43,56 +41,22 @@ private slots:
     void cleanup()
     {
         mpStore.reset();
-        mpDesktop.reset();
         mpFixture.reset();
-    }
-
-    void commands_data()
-    {
-        QTest::addColumn<int>("fid");
-        QTest::addColumn<QString>("command");
-        QTest::addColumn<bool>("works");
-        QTest::addColumn<bool>("result");
-        QTest::addColumn<QStringList>("asked");
-        QTest::addColumn<QString>("line"); // after the first, which is the same for all
-
-        const QString home = u("url https://duckduckgo.com/");
-        QTest::newRow("home page") << 1 << u("unused") << true << true << QStringList{home}
-                                   << u("1 open home page ok");
-        QTest::newRow("no browser") << 1 << QString() << false << false << QStringList{home}
-                                    << u("3 open home page fail");
-        QTest::newRow("file") << 2 << u("/a b/c.txt") << true << true << QStringList{u("file /a b/c.txt")}
-                              << QString();
-        QTest::newRow("missing file")
-            << 2 << u("/x") << false << false << QStringList{u("file /x")} << QString();
-        QTest::newRow("address") << 3 << u("http://a.test/?q=好") << true << true
-                                 << QStringList{u("url http://a.test/?q=好")}
-                                 << u("1 open http://a.test/?q=好 ok");
-        QTest::newRow("bad address") << 3 << u("nowhere") << false << false << QStringList{u("url nowhere")}
-                                     << u("3 open nowhere fail");
-        QTest::newRow("text, typed elsewhere")
-            << 15 << u("hi") << true << false << QStringList{u("type 15 hi")} << QString();
-        QTest::newRow("empty text") << 15 << QString() << true << false << QStringList{u("type 15 ")}
-                                    << QString();
-        for (const int fid : {0, 4, 5, 16, 17, 18, 100, -3})
-            QTest::addRow("nothing for %d", fid)
-                << fid << u("x") << true << false << QStringList() << QString();
     }
 
     void commands()
     {
-        QFETCH(int, fid);
-        QFETCH(QString, command);
-        QFETCH(bool, works);
-        QFETCH(QStringList, asked);
-        QFETCH(QString, line);
-        mpDesktop->works = works;
-        QTEST(mpStore->execCommand(Key, fid, command), "result");
-        QCOMPARE(mpDesktop->asked, asked);
-        QStringList lines = {u("1 execCommand Layoutid:1 Pageid:2 Keyid:3 fid:%1 ").arg(fid)};
-        if (!line.isEmpty())
-            lines << line;
-        QCOMPARE(mpFixture->takeLines(), lines);
+        QCOMPARE(outcome(1, "unused"), u("true: url https://duckduckgo.com/, 1 open home page ok"));
+        QCOMPARE(outcome(2, "/a b"), u("true: file /a b"));
+        QCOMPARE(outcome(3, "http://a.test/?q=好"),
+                 u("true: url http://a.test/?q=好, 1 open http://a.test/?q=好 ok"));
+        QCOMPARE(outcome(15, "hi"), u("false: type 15 hi")); // typed elsewhere
+        for (const int fid : {0, 4, 16, 100, -3})
+            QCOMPARE(outcome(fid, "x"), u("false: "));
+        mDesktop.works = false;
+        QCOMPARE(outcome(1, ""), u("false: url https://duckduckgo.com/, 3 open home page fail"));
+        QCOMPARE(outcome(2, "/x"), u("false: file /x"));
+        QCOMPARE(outcome(3, "nowhere"), u("false: url nowhere, 3 open nowhere fail"));
     }
 
     void runNowListRunsInOrderAndIsNotStored()
@@ -102,11 +66,11 @@ private slots:
                                 entry(15, hex("4F004B00")) + entry(16, hex("E006")) + hex("2A0000") +
                                 hex("000000");
         QVERIFY(!take(16, list));
-        QCOMPARE(mpDesktop->asked, (QStringList{u("url http://a.test/"), u("type 15 OK")}));
-        const QStringList lines = mpFixture->takeCalmLines();
+        QCOMPARE(mDesktop.asked, (QStringList{u("url http://a.test/"), u("type 15 OK")}));
+        const QStringList lines = mpFixture->takeLines();
         QCOMPARE(lines.filter(u("execCommand")).size(), 6);
         QVERIFY(lines.contains(u("1 -----tmpAdditonal[224][6][0][0]")));
-        QCOMPARE(QFileInfo(mpFixture->path("devConfig/multiActions.json")).size(), 0);
+        QCOMPARE(storedBytes(), 0);
     }
 
     void storedListIsKeptAndNotRun()
@@ -115,50 +79,22 @@ private slots:
                                 entry(16, hex("E006")) + hex("050000");
         mpStore->setRecvTotalKeyCount(0);
         QVERIFY(!take(15, list)); // false although no picture is missing
-        QVERIFY(mpDesktop->asked.isEmpty());
-        const QVector<MultiAction> stored = multiActionStore().readActionsByKeyId(1, 2, 3);
-        QCOMPARE(stored, (QVector<MultiAction>{{2, 0, u("/a b")},
-                                               {100, 1000, {}},
-                                               {16, 0, u("Left Ctrl#C#undefine#undefine")},
-                                               {5, 0, {}}}));
+        QVERIFY(mDesktop.asked.isEmpty());
+        QCOMPARE(multiActionStore().readActionsByKeyId(1, 2, 3),
+                 (QVector<MultiAction>{{2, 0, u("/a b")},
+                                       {100, 1000, {}},
+                                       {16, 0, u("Left Ctrl#C#undefine#undefine")},
+                                       {5, 0, {}}}));
         QCOMPARE(mpStore->getReceivedCounts().current, 0);
-    }
-
-    void listLines()
-    {
-        take(16, hex("0300 640A00 FFFF")); // what lies behind the counted bytes is only dumped
-        QCOMPARE(mpFixture->takeLines(),
-                 (QStringList{u("4 -----------MD_FUNCTION_CODE_KEY_ATTRIBUTE-----"),
-                              u("1 application length:0x0000000b(11)"),
-                              u("1 saveKeyAttrByDevconfig Layoutid[1] Pageid[2] Keyid[3] nAttrbuteid[16]"),
-                              u("4 -----getall-------byteArry=03 00 64 0a 00 ff ff "),
-                              u("4 -----available-------byteArry=03 00 64 0a 00 "), u("4 ----action=100 10 "),
-                              u("1 execCommand Layoutid:1 Pageid:2 Keyid:3 fid:100 "),
-                              u("1 mRecvTotalKeyCount[0]-mRecvCurKeyCount[0]")}));
-    }
-
-    void listsThatHoldNothing_data()
-    {
-        QTest::addColumn<QByteArray>("list");
-        QTest::newRow("length 0") << hex("0000 0300");
-        QTest::newRow("one byte") << hex("05");
-        QTest::newRow("only code 0") << hex("0600 000000 000000");
-        QTest::newRow("length beyond the bytes") << hex("FFFF");
     }
 
     void listsThatHoldNothing()
     {
-        QFETCH(QByteArray, list);
-        QVERIFY(!take(15, list));
-        QCOMPARE(QFileInfo(mpFixture->path("devConfig/multiActions.json")).size(), 0);
-        QVERIFY(!take(16, list));
-        QVERIFY(mpDesktop->asked.isEmpty());
-    }
-
-    void cutEntryIsRunWithAnEmptyText()
-    {
-        take(16, hex("8200") + entry(2, "/a").left(130)); // one byte short of an entry
-        QCOMPARE(mpDesktop->asked, QStringList{u("file ")});
+        for (const QByteArray &list : {hex("05"), hex("FFFF"), hex("0600 000000 000000")}) {
+            QVERIFY(!take(15, list) && !take(16, list));
+            QCOMPARE(storedBytes(), 0);
+            QVERIFY(mDesktop.asked.isEmpty());
+        }
     }
 
     void listThatCannotBeStoredIsReported()
@@ -166,8 +102,7 @@ private slots:
         QFile::remove(mpFixture->path("devConfig/multiActions.json"));
         QVERIFY(QDir().mkpath(mpFixture->path("devConfig/multiActions.json/in the way")));
         QVERIFY(!take(15, hex("0300 050000")));
-        const QStringList errors = mpFixture->takeLines().filter(QRegularExpression(u("^3 写入失败:.")));
-        QVERIFY(!errors.isEmpty());
+        QVERIFY(!mpFixture->takeLines().filter(QRegularExpression(u("^3 写入失败:."))).isEmpty());
     }
 
     void listOfAKeyThatCannotBeIsNotStored()
@@ -175,10 +110,24 @@ private slots:
         const QByteArray payload = hex("0102100F") + hex("0300 050000"); // key 16
         QVERIFY(!mpStore->saveKeyAttrByDevconfig(data(payload), payload.size()));
         QVERIFY(mpFixture->takeLines().contains(u("3 Error keyid Layoutid:1 Pageid:2,nKeyoutId=16 ")));
-        QCOMPARE(QFileInfo(mpFixture->path("devConfig/multiActions.json")).size(), 0);
+        QCOMPARE(storedBytes(), 0);
     }
 
 private:
+    /// What a command returns, asks the desktop for, and logs behind its first line.
+    QString outcome(int fid, const char *command)
+    {
+        const bool result = mpStore->execCommand({1, 2, 3}, fid, u(command));
+        const QStringList lines = mpFixture->takeLines();
+        const QString head = u("1 execCommand Layoutid:1 Pageid:2 Keyid:3 fid:%1 ").arg(fid);
+        if (lines.value(0) != head)
+            return u("not logged");
+        const QStringList rest = std::exchange(mDesktop.asked, {}) + lines.mid(1);
+        return (result ? u("true: ") : u("false: ")) + rest.join(u(", "));
+    }
+
+    qint64 storedBytes() const { return QFileInfo(mpFixture->path("devConfig/multiActions.json")).size(); }
+
     bool take(char attribute, const QByteArray &list)
     {
         const QByteArray payload = hex("010203") + attribute + list;
@@ -186,7 +135,7 @@ private:
     }
 
     std::unique_ptr<StoreFixture> mpFixture;
-    std::unique_ptr<RecordingDesktop> mpDesktop;
+    RecordingDesktop mDesktop;
     std::unique_ptr<FunctionManager> mpStore;
 };
 

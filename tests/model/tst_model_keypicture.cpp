@@ -8,18 +8,6 @@
 
 using namespace vorlinmodel;
 
-namespace {
-
-void writeFile(const QString &path, const QByteArray &bytes)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), qint64(bytes.size()));
-}
-
-} // namespace
-
 class KeyPictureTest : public QObject
 {
     Q_OBJECT
@@ -36,78 +24,49 @@ private slots:
                      "[layout_44]\nnum=0\nname=other\n");
         const auto layout = loadCustomLayout(4);
         QVERIFY(layout);
-        QCOMPARE(layout->layoutId, 4);
         QCOMPARE(layout->name, u("Büro, 桌"));
         QCOMPARE(layout->keys.size(), 3);
         QCOMPARE(layout->keys.at(0).mask, 0x63U);
         QCOMPARE(layout->keys.at(0).firstPhysical, 1);
         QCOMPARE(layout->keys.at(0).lastPhysical, 7);
-        QCOMPARE(layout->keys.at(1).firstPhysical, 3);
-        QCOMPARE(layout->keys.at(1).lastPhysical, 3);
+        QCOMPARE(layout->keys.at(1).lastPhysical, 3); // of a single one
         QCOMPARE(layout->keys.at(2).lastPhysical, 15);
         QCOMPARE(loadCustomLayout(44)->keys.size(), 0);
         QVERIFY(!loadCustomLayout(5));
     }
 
-    void foreignLayoutsAreTamed_data()
-    {
-        QTest::addColumn<QByteArray>("lines");
-        QTest::addColumn<int>("keys");
-        QTest::addColumn<uint>("mask"); // of the first key
-        QTest::addColumn<int>("first");
-
-        QTest::newRow("far too many")
-            << QByteArray("num=1000000000\n1_bitmap=1\nphyid_1=1#1#1&\n") << 15 << 1U << 1;
-        QTest::newRow("negative number") << QByteArray("num=-3\n") << 0 << 0U << 0;
-        QTest::newRow("number is a text") << QByteArray("num=many\n") << 0 << 0U << 0;
-        QTest::newRow("nothing about the key") << QByteArray("num=1\n") << 1 << 0U << 0;
-        QTest::newRow("mask is a text") << QByteArray("num=1\n1_bitmap=x\nphyid_1=abc\n") << 1 << 0U << 0;
-        QTest::newRow("mask beyond key 15") << QByteArray("num=1\n1_bitmap=32769\n") << 1 << 0U << 0;
-        QTest::newRow("negative mask") << QByteArray("num=1\n1_bitmap=-1\n") << 1 << 0U << 0;
-        QTest::newRow("physical key 16")
-            << QByteArray("num=1\n1_bitmap=1\nphyid_1=16#1#1&\n") << 1 << 1U << 0;
-    }
-
     void foreignLayoutsAreTamed()
     {
-        QFETCH(QByteArray, lines);
-        QFETCH(int, keys);
-        writeLayouts("[layout_4]\n" + lines);
-        const auto layout = loadCustomLayout(4);
-        QVERIFY(layout);
-        QCOMPARE(layout->keys.size(), keys);
-        if (keys == 0)
-            return;
-        QTEST(layout->keys.at(0).mask, "mask");
-        QTEST(layout->keys.at(0).firstPhysical, "first");
-    }
-
-    void sizeFollowsTheLayout_data()
-    {
-        QTest::addColumn<int>("layoutId");
-        QTest::addColumn<int>("keyId");
-        QTest::addColumn<QSize>("size");
-
-        QTest::newRow("standard layout") << 1 << 1 << QSize(90, 84);
-        QTest::newRow("unknown layout") << 9 << 1 << QSize(90, 84);
-        QTest::newRow("single key") << 4 << 1 << QSize(90, 84);
-        QTest::newRow("2 x 2") << 4 << 2 << QSize(180, 168);
-        QTest::newRow("a row of four") << 4 << 3 << QSize(360, 84);
-        QTest::newRow("a column of three") << 4 << 4 << QSize(90, 252);
-        QTest::newRow("all keys") << 4 << 5 << QSize(450, 252);
-        QTest::newRow("no physical key") << 4 << 6 << QSize(90, 84);
-        QTest::newRow("key beyond the layout") << 4 << 7 << QSize(90, 84);
+        // Number of keys, mask and first physical key of the first one.
+        const auto tamed = [this](const QByteArray &lines) {
+            writeLayouts("[layout_4]\n" + lines);
+            const auto layout = loadCustomLayout(4).value_or(CustomLayout{});
+            const auto key = layout.keys.value(0);
+            return QVector<int>{layout.keys.size(), int(key.mask), key.firstPhysical};
+        };
+        QCOMPARE(tamed("num=1000000000\n1_bitmap=1\nphyid_1=1#1#1&\n"), (QVector{15, 1, 1}));
+        QCOMPARE(tamed("num=many\n"), (QVector{0, 0, 0}));
+        QCOMPARE(tamed("num=1\n1_bitmap=x\nphyid_1=abc\n"), (QVector{1, 0, 0}));
+        QCOMPARE(tamed("num=1\n1_bitmap=32769\n"), (QVector{1, 0, 0})); // beyond key 15
+        QCOMPARE(tamed("num=1\n1_bitmap=-1\n"), (QVector{1, 0, 0}));
+        QCOMPARE(tamed("num=1\n1_bitmap=1\nphyid_1=16#1#1&\n"), (QVector{1, 1, 0}));
     }
 
     void sizeFollowsTheLayout()
     {
-        QFETCH(int, layoutId);
-        QFETCH(int, keyId);
-        writeLayouts(
-            "[layout_1]\nnum=1\n1_bitmap=3\n" // the standard layout is not read from the file
-            "[layout_4]\nnum=6\n1_bitmap=16384\n2_bitmap=99\n3_bitmap=30\n4_bitmap=1057\n5_bitmap=32767\n"
-            "6_bitmap=0\n");
-        QTEST(keyPixelSize({layoutId, 1, keyId}), "size");
+        // The standard layout is not read from the file.
+        writeLayouts("[layout_1]\nnum=1\n1_bitmap=3\n[layout_4]\nnum=6\n1_bitmap=16384\n2_bitmap=99\n"
+                     "3_bitmap=30\n4_bitmap=1057\n5_bitmap=32767\n6_bitmap=0\n");
+        const QSize single(90, 84);
+        QCOMPARE(keyPixelSize({1, 1, 1}), single);
+        QCOMPARE(keyPixelSize({9, 1, 1}), single); // unknown layout
+        QCOMPARE(keyPixelSize({4, 1, 1}), single);
+        QCOMPARE(keyPixelSize({4, 1, 2}), QSize(180, 168));
+        QCOMPARE(keyPixelSize({4, 1, 3}), QSize(360, 84));
+        QCOMPARE(keyPixelSize({4, 1, 4}), QSize(90, 252));
+        QCOMPARE(keyPixelSize({4, 1, 5}), QSize(450, 252));
+        QCOMPARE(keyPixelSize({4, 1, 6}), single); // no physical key
+        QCOMPARE(keyPixelSize({4, 1, 7}), single); // beyond the layout
     }
 
     void encodedPictureHasTheKeysSizeAndNoAlpha()
@@ -130,47 +89,32 @@ private slots:
         QCOMPARE(image.pixelColor(90, 42).blue(), 0);
     }
 
-    void noPictureNothingEncoded_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::newRow("missing file") << u("/no/such/file.png");
-        QTest::newRow("missing resource") << u(":/no/such/file.png");
-        QTest::newRow("no path") << QString();
-        QTest::newRow("video") << u("film.mp4");
-    }
-
     void noPictureNothingEncoded()
     {
-        QFETCH(QString, path);
-        writeFile(mpFixture->path("film.mp4"), "not a picture");
+        QFile film(mpFixture->path("film.mp4"));
+        QVERIFY(film.open(QIODevice::WriteOnly) && film.write("not a picture"));
         FunctionManager store;
         QVERIFY(!encodedKeyPicture(store, {1, 1, 1})); // unknown key
         store.createKeyAttribute(1, 1, 1, 17);
-        store.setCustomImage({1, 1, 1}, path);
-        QVERIFY(!encodedKeyPicture(store, {1, 1, 1}));
-    }
-
-    void decodingHasALimit_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QSize>("size");
-        QTest::newRow("at the limit") << picture({4096, 1}, Qt::red) << QSize(4096, 1);
-        QTest::newRow("one pixel more") << picture({4097, 1}, Qt::red) << QSize();
-        QTest::newRow("one line more") << picture({1, 4097}, Qt::red, "BMP") << QSize();
-        QTest::newRow("nothing") << QByteArray() << QSize();
+        for (const char *path : {"", "/no/such/file.png", ":/no/such/file.png", "film.mp4"}) {
+            store.setCustomImage({1, 1, 1}, u(path));
+            QVERIFY(!encodedKeyPicture(store, {1, 1, 1}));
+        }
     }
 
     void decodingHasALimit()
     {
-        QFETCH(QByteArray, bytes);
-        QFETCH(QSize, size);
-        QCOMPARE(decodePicture(bytes).size(), size.isValid() ? size : QSize(0, 0));
+        QCOMPARE(decodePicture(picture({4096, 1}, Qt::red)).size(), QSize(4096, 1));
+        QVERIFY(decodePicture(picture({4097, 1}, Qt::red)).isNull());
+        QVERIFY(decodePicture(picture({1, 4097}, Qt::red, "BMP")).isNull());
     }
 
 private:
     void writeLayouts(const QByteArray &text)
     {
-        writeFile(mpFixture->path("devConfig/customLayout.ini"), text);
+        QVERIFY(QDir().mkpath(mpFixture->path("devConfig")));
+        QFile file(mpFixture->path("devConfig/customLayout.ini"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
     }
 
     std::unique_ptr<StoreFixture> mpFixture;

@@ -32,30 +32,16 @@ private slots:
     void init() { mpFixture = std::make_unique<StoreFixture>(); }
     void cleanup() { mpFixture.reset(); }
 
-    void folderOfAnExport_data()
-    {
-        QTest::addColumn<QString>("directory");
-        QTest::addColumn<QString>("folder");
-        QTest::newRow("plain") << u("/e/out") << u("/e/out/script_20261121_090507");
-        QTest::newRow("an earlier export")
-            << u("/e/script_20250102_030405") << u("/e/script_20261121_090507");
-        QTest::newRow("inside an earlier export")
-            << u("/e/script_20250102_030405/deeper") << u("/e/script_20261121_090507");
-        QTest::newRow("a folder that only sounds like one")
-            << u("/e/script_files") << u("/e/script_files/script_20261121_090507");
-    }
-
     void folderOfAnExport()
     {
-        QFETCH(QString, directory);
-        QFETCH(QString, folder);
-        QCOMPARE(ConfigBackup::scriptFolder(directory, Moment), folder);
-    }
-
-    void withoutAnExportDirectory()
-    {
-        QVERIFY(ConfigBackup::writeScript({}, "abc", Moment));
-        QCOMPARE(testFileContent(path("devConfig/script_20261121_090507/CD.bin")), QByteArray("abc"));
+        const auto folder = [](const char *directory) {
+            return ConfigBackup::scriptFolder(u(directory), Moment);
+        };
+        QCOMPARE(folder("/e/out"), u("/e/out/script_20261121_090507"));
+        // Inside an earlier export, not inside a folder that only sounds like one.
+        QCOMPARE(folder("/e/script_20250102_030405"), u("/e/script_20261121_090507"));
+        QCOMPARE(folder("/e/script_20250102_030405/deeper"), u("/e/script_20261121_090507"));
+        QCOMPARE(folder("/e/script_files"), u("/e/script_files/script_20261121_090507"));
     }
 
     void twoExportsInOneSecond()
@@ -68,6 +54,8 @@ private slots:
         QCOMPARE(testFileContent(file), QByteArray("second"));
         QCOMPARE(QDir(out).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
         QCOMPARE(currentScript(), QByteArray("second"));
+        QVERIFY(ConfigBackup::writeScript({}, "abc", Moment)); // no directory chosen
+        QCOMPARE(testFileContent(path("devConfig/script_20261121_090507/CD.bin")), QByteArray("abc"));
     }
 
     void anExportThatCannotBeWritten()
@@ -164,16 +152,6 @@ private slots:
         QCOMPARE(mpFixture->takeLines().filter(u("3 Failed to restore  [")).size(), 3);
     }
 #endif
-
-    void safeDelete()
-    {
-        QVERIFY(ConfigBackup::safeDelete(path("nothing")));
-        QVERIFY(writeTestFile(path("file"), "x"));
-        QVERIFY(QFile::setPermissions(path("file"), QFile::ReadOwner | QFile::ReadUser));
-        QVERIFY(ConfigBackup::safeDelete(path("file")));
-        QVERIFY(!QFile::exists(path("file")));
-        QVERIFY(!QFile::exists(path("file.del")));
-    }
 };
 
 QTEST_GUILESS_MAIN(TestFilesBackup)

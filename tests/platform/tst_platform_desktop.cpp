@@ -1,9 +1,7 @@
 /// Opening files and pressing paste, on the system that the test runs on.
-#include "pastekeys.h"
 #include "platform/desktop.h"
 
 #include <QDesktopServices>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QUrl>
@@ -39,23 +37,9 @@ class TestPlatformDesktop : public QObject
     }
 
 private slots:
-    void pasteStrokes()
-    {
-        QStringList calls;
-        for (const vorlindesk::KeyStroke &stroke : vorlindesk::PasteStrokes)
-            calls << QStringLiteral("%1 %2 %3")
-                         .arg(stroke.virtualKey, 0, 16)
-                         .arg(stroke.keySym, 0, 16)
-                         .arg(stroke.press ? QStringLiteral("down") : QStringLiteral("up"));
-        const QStringList expected = {QStringLiteral("11 ffe3 down"), QStringLiteral("56 76 down"),
-                                      QStringLiteral("56 76 up"), QStringLiteral("11 ffe3 up")};
-        QCOMPARE(calls, expected);
-    }
-
     void startsAProgram_data()
     {
         QTest::addColumn<QString>("folder");
-        QTest::newRow("plain") << QStringLiteral("plain");
         QTest::newRow("blanks") << QStringLiteral("two blanks here");
         QTest::newRow("ampersand without blanks") << QStringLiteral("r&d");
         QTest::newRow("brackets, caret") << QStringLiteral("a (1)^b");

@@ -4,10 +4,9 @@
 #include "base/logcapture.h"
 #include "protocol/mdprotocol.h"
 #include "support/fakehid.h"
+#include "support/texts.h"
 #include "transport/hidtransfer.h"
 #include "wire/bytesofhex.h"
-
-#include <QStringList>
 
 class ProtocolFixture
 {
@@ -19,13 +18,16 @@ public:
     }
 
     QStringList events; ///< "key l/p/k", "message <hex>", "reassembly", "pause <ms>"
-    bool interrupted = false;
+    std::function<bool()> interrupted = [] {
+        return false;
+    };
     int endPauseAfter = -1; ///< pauses until the thread is asked to end
     LogCapture log;
     vorlindesk::HIDTransfer transfer;
     vorlindesk::MDProtocol protocol{transfer, callbacks()};
 
     QStringList linesWith(const char *part) { return log.lines().filter(QLatin1String(part)); }
+    QStringList lastLines(int count) { return log.lines().mid(log.lines().size() - count); }
 
 private:
     vorlindesk::MDProtocol::Callbacks callbacks()
@@ -41,7 +43,7 @@ private:
                     events << QStringLiteral("key %1/%2/%3").arg(lid).arg(pageid).arg(kid);
                 },
             .reassemblyStarted = [this] { events << QStringLiteral("reassembly"); },
-            .interrupted = [this] { return interrupted; },
+            .interrupted = [this] { return interrupted(); },
             .pause =
                 [this](int milliseconds) {
                     events << QStringLiteral("pause %1").arg(milliseconds);

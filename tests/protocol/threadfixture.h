@@ -5,13 +5,14 @@
 #include "model/functionmanager.h"
 #include "protocol/protocolthread.h"
 #include "support/fakehid.h"
+#include "support/texts.h"
 #include "wire/bytesofhex.h"
 
 #include <QDir>
-#include <QStringList>
 #include <QTemporaryDir>
-#include <mutex>
-#include <vector>
+
+using vorlinmodel::RequestKind;
+using enum vorlinmodel::RequestKind;
 
 class ThreadFixture
 {
@@ -31,42 +32,29 @@ public:
         QDir::setCurrent(mBefore);
     }
 
-    /// Every signal of the thread in order: "connected", "disconnected", "log <text>", "received <hex>",
-    /// "exec <fid> <text>", "script", "video <n>", "available <n>", "finished <n>".
-    QStringList events()
+    /// The signals of the thread in order that start with @p kind: "connected", "disconnected", "log <text>",
+    /// "received <hex>", "exec <fid> <text>", "script", "video <n>", "available <n>", "finished <n>".
+    QStringList events(const char *kind = "")
     {
         const std::lock_guard lock(mMutex);
-        return QStringList(mEvents.begin(), mEvents.end());
-    }
-    QStringList events(const char *kind)
-    {
         QStringList some;
-        for (const QString &event : events())
+        for (const QString &event : mEvents)
             if (event.startsWith(QLatin1String(kind)))
                 some << event;
         return some;
     }
 
-    void post(vorlinmodel::RequestKind kind, quint32 layoutId = 0, quint32 pageId = 0, quint32 keyId = 0,
+    void post(RequestKind kind, quint32 layoutId = 0, quint32 pageId = 0, quint32 keyId = 0,
               quint32 functionId = 0, quint32 attributeId = 0)
     {
-        vorlinmodel::Request request;
-        request.functionCode = static_cast<quint32>(kind);
-        request.layoutId = layoutId;
-        request.pageId = pageId;
-        request.keyId = keyId;
-        request.functionId = functionId;
-        request.attributeId = attributeId;
-        thread.postRequest(request);
+        thread.postRequest(
+            {static_cast<quint32>(kind), layoutId, pageId, keyId, functionId, attributeId, {}, {}});
     }
-    void postFile(vorlinmodel::RequestKind kind, const QString &fileName, const QString &devicePath = {})
+    void postFile(RequestKind kind, const QString &fileName, const QString &devicePath = {})
     {
-        vorlinmodel::Request request;
-        request.functionCode = static_cast<quint32>(kind);
-        request.fileName = fileName;
-        request.devicePath = devicePath;
-        thread.postRequest(request);
+        thread.postRequest({static_cast<quint32>(kind), 0, 0, 0, 0, 0, devicePath, fileName});
     }
+    void postBlockDelay(quint32 ms) { thread.postRequest({12, 0, 0, 0, 0, 0, {}, {}, ms}); }
 
     QStringList linesWith(const char *part) { return log.lines().filter(QLatin1String(part)); }
 
@@ -88,37 +76,34 @@ public:
     vorlinmodel::ProtocolThread thread{store};
 
 private:
-    void record(const QString &event)
-    {
-        const std::lock_guard lock(mMutex);
-        mEvents.push_back(event);
-    }
-
     void recordSignals()
     {
-        using vorlinmodel::IProtocolThread;
-        const auto on = [this](auto signal, auto slot) {
-            QObject::connect(&thread, signal, &thread, slot, Qt::DirectConnection);
+        using Thread = vorlinmodel::IProtocolThread;
+        const auto on = [this](auto signal, auto describe) {
+            const auto record = [this, describe](const auto &...values) -> void {
+                const std::lock_guard lock(mMutex);
+                mEvents.push_back(describe(values...));
+            };
+            QObject::connect(&thread, signal, &thread, record, Qt::DirectConnection);
         };
-        on(&IProtocolThread::sigUsbConnectState, [this](bool connected) {
-            record(connected ? QStringLiteral("connected") : QStringLiteral("disconnected"));
+        const auto onNumber = [on](auto signal, const char *name) {
+            on(signal, [name](qint32 n) { return QStringLiteral("%1 %2").arg(QLatin1String(name)).arg(n); });
+        };
+        on(&Thread::sigUsbConnectState, [](bool connected) {
+            return connected ? QStringLiteral("connected") : QStringLiteral("disconnected");
         });
-        on(&IProtocolThread::logMessageSignal,
-           [this](const QString &text) { record(QStringLiteral("log ") + text); });
-        on(&IProtocolThread::sigDealRecvData, [this](const quint8 *bytes, qint32 length) {
+        on(&Thread::logMessageSignal, [](const QString &text) { return QStringLiteral("log ") + text; });
+        on(&Thread::sigDealRecvData, [](const quint8 *bytes, qint32 length) {
             const QByteArray message(reinterpret_cast<const char *>(bytes), length);
-            record(QStringLiteral("received ") + QString::fromLatin1(message.toHex(' ')));
+            return QStringLiteral("received ") + QString::fromLatin1(message.toHex(' '));
         });
-        on(&IProtocolThread::sigDealExecCommand, [this](qint32 fid, const QString &command) {
-            record(QStringLiteral("exec %1 %2").arg(fid).arg(command));
+        on(&Thread::sigDealExecCommand, [](qint32 fid, const QString &command) {
+            return QStringLiteral("exec %1 %2").arg(fid).arg(command);
         });
-        on(&IProtocolThread::sigSendScriptFinished, [this] { record(QStringLiteral("script")); });
-        on(&IProtocolThread::sigSendVideoFinished,
-           [this](qint32 n) { record(QStringLiteral("video %1").arg(n)); });
-        on(&IProtocolThread::sigSendUpdateAvailable,
-           [this](qint32 n) { record(QStringLiteral("available %1").arg(n)); });
-        on(&IProtocolThread::sigUpgradeFinished,
-           [this](qint32 n) { record(QStringLiteral("finished %1").arg(n)); });
+        on(&Thread::sigSendScriptFinished, [] { return QStringLiteral("script"); });
+        onNumber(&Thread::sigSendVideoFinished, "video");
+        onNumber(&Thread::sigSendUpdateAvailable, "available");
+        onNumber(&Thread::sigUpgradeFinished, "finished");
     }
 
     const QString mBefore = QDir::currentPath();
@@ -128,10 +113,17 @@ private:
 };
 
 /// A report of the panel that carries a whole message.
-inline QByteArray wholeReport(const char *message)
+inline QByteArray wholeReport(const QByteArray &message)
 {
-    const QByteArray payload = hex(message);
+    const QByteArray payload = QByteArray::fromHex(message);
     QByteArray header = hex("02 00 00 00 00 00");
     header[4] = static_cast<char>(payload.size());
     return header + payload;
+}
+
+inline void writeFile(const QString &name, const QByteArray &bytes)
+{
+    QFile file(name);
+    file.open(QIODevice::WriteOnly);
+    file.write(bytes);
 }

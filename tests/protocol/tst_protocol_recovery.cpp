@@ -4,33 +4,23 @@
 #include <QElapsedTimer>
 #include <QtTest>
 
-using vorlinmodel::RequestKind;
-
-namespace {
-const QString VersionRequest = QStringLiteral("04"); // what asks for the state
-}
-
 class RecoveryTest : public QObject
 {
     Q_OBJECT
 private slots:
+    /// The first opening is no return: only the second one asks for the state, with message 04.
     void unpluggedAndPluggedInAgain()
     {
         ThreadFixture fixture;
         fixture.thread.start();
-        fixture.post(RequestKind::MD_FUNCTION_CODE_HARDWARE_VERSION);
-        QTRY_COMPARE(fixture.messages(), QStringList(QStringLiteral("03")));
-        QElapsedTimer stopwatch;
-        stopwatch.start();
+        QTRY_VERIFY(fakeHid().readTimeouts().size() >= 3);
+        fixture.post(MD_FUNCTION_CODE_HARDWARE_VERSION);
+        QTRY_COMPARE(fixture.messages(), texts({"03"}));
         fakeHid().setPresent(false);
-        QTRY_COMPARE(fixture.events().last(), QStringLiteral("disconnected"));
-        QVERIFY(stopwatch.elapsed() < 1000);
-        stopwatch.start();
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.events(), texts({"connected", "disconnected"}), 1000);
         fakeHid().setPresent(true);
-        QTRY_COMPARE(fixture.events().size(), 3);
-        QVERIFY(stopwatch.elapsed() < 1500);
-        QCOMPARE(fixture.events().last(), QStringLiteral("connected"));
-        QCOMPARE(fixture.messages(), QStringList({QStringLiteral("03"), VersionRequest}));
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.events(), texts({"connected", "disconnected", "connected"}), 1500);
+        QTRY_COMPARE(fixture.messages(), texts({"03", "04"}));
     }
 
     void pluggedInAfterTheStart()
@@ -40,8 +30,8 @@ private slots:
         fixture.thread.start();
         QTRY_VERIFY(fakeHid().enumerations() >= 2); // an attempt of the thread itself
         fakeHid().setPresent(true);
-        QTRY_COMPARE(fixture.messages(), QStringList(VersionRequest));
-        QTRY_COMPARE(fixture.events(), QStringList(QStringLiteral("connected")));
+        QTRY_COMPARE(fixture.messages(), texts({"04"}));
+        QTRY_COMPARE(fixture.events(), texts({"connected"}));
     }
 
     void readErrorAloneAsksForTheState()
@@ -50,7 +40,7 @@ private slots:
         fixture.thread.start();
         QTRY_VERIFY(fakeHid().readTimeouts().size() >= 2);
         fakeHid().failNextRead();
-        QTRY_COMPARE(fixture.messages(), QStringList(VersionRequest));
+        QTRY_COMPARE(fixture.messages(), texts({"04"}));
     }
 
     /// The request that opens the panel is the one that it does not survive.
@@ -58,19 +48,18 @@ private slots:
     {
         ThreadFixture fixture;
         fakeHid().setOnWrite([](const QByteArray &) { fakeHid().setPresent(false); });
-        fixture.post(RequestKind::MD_FUNCTION_CODE_HARDWARE_VERSION);
+        fixture.post(MD_FUNCTION_CODE_HARDWARE_VERSION);
         fixture.thread.start();
-        QTRY_COMPARE(fixture.events(),
-                     QStringList({QStringLiteral("connected"), QStringLiteral("disconnected")}));
+        QTRY_COMPARE(fixture.events(), texts({"connected", "disconnected"}));
     }
 
     void writeErrorWithinTheFirstRequest()
     {
         ThreadFixture fixture;
         fakeHid().failWriteAfter(0);
-        fixture.post(RequestKind::MD_FUNCTION_CODE_HARDWARE_VERSION);
+        fixture.post(MD_FUNCTION_CODE_HARDWARE_VERSION);
         fixture.thread.start();
-        QTRY_COMPARE(fixture.messages(), QStringList(VersionRequest));
+        QTRY_COMPARE(fixture.messages(), texts({"04"}));
     }
 
     void requestIsTakenAtOnceWithoutAPanel()
@@ -82,8 +71,8 @@ private slots:
         QElapsedTimer stopwatch;
         stopwatch.start();
         for (int i = 0; i < 5; ++i) {
-            fixture.post(RequestKind::MD_FUNCTION_CODE_SELECT_PAGE, static_cast<quint32>(i));
-            QTRY_COMPARE_WITH_TIMEOUT(fixture.linesWith("send request  error").size(), i + 1, 400);
+            fixture.post(MD_FUNCTION_CODE_SELECT_PAGE, static_cast<quint32>(i));
+            QTRY_COMPARE(fixture.linesWith("send request  error").size(), i + 1);
         }
         QVERIFY2(stopwatch.elapsed() < 1000, "none waits for the next look for the panel");
     }
@@ -94,20 +83,18 @@ private slots:
         ThreadFixture fixture;
         fakeHid().setPresent(false);
         fixture.thread.start();
-        fixture.post(RequestKind::MD_FUNCTION_CODE_HARDWARE_VERSION, 10);
+        fixture.post(MD_FUNCTION_CODE_HARDWARE_VERSION, 10);
         QTRY_COMPARE(fixture.linesWith("send request  error").size(), 1);
         const int attempts = fakeHid().opened().size();
-        const QStringList before = fixture.log.lines();
         for (int i = 1; i <= 3; ++i) {
-            fixture.post(RequestKind::MD_FUNCTION_CODE_HARDWARE_VERSION, 10);
+            fixture.post(MD_FUNCTION_CODE_HARDWARE_VERSION, 10);
             QTRY_VERIFY(fakeHid().opened().size() >= attempts + i);
         }
-        fixture.post(RequestKind::MD_FUNCTION_CODE_SELECT_PAGE, 1, 2); // another one is news
+        fixture.post(MD_FUNCTION_CODE_SELECT_PAGE, 1, 2); // another one is news
         QTRY_COMPARE(fixture.linesWith("send request  error").size(), 2);
         QCOMPARE(fixture.linesWith("MD_FUNCTION_CODE_HARDWARE_VERSION").size(), 1);
-        QCOMPARE(fixture.log.lines().mid(0, before.size()), before);
         fakeHid().setPresent(true);
-        fixture.post(RequestKind::MD_FUNCTION_CODE_HARDWARE_VERSION, 10);
+        fixture.post(MD_FUNCTION_CODE_HARDWARE_VERSION, 10);
         QTRY_COMPARE(fixture.linesWith("send request  ok").size(), 1); // and so is the panel's return
         QCOMPARE(fixture.linesWith("MD_FUNCTION_CODE_HARDWARE_VERSION").size(), 2);
     }
@@ -116,14 +103,13 @@ private slots:
     void linesOfAReturnedPanelAreWrittenAtOnce()
     {
         ThreadFixture fixture;
-        QFile(QStringLiteral("firmware.bin")).open(QIODevice::WriteOnly);
+        writeFile(QStringLiteral("firmware.bin"), {});
         fakeHid().setPresent(false);
         fixture.thread.start();
-        fixture.postFile(RequestKind::MD_FUNCTION_CODE_UPGRADE, QStringLiteral("firmware.bin"));
-        QTRY_COMPARE(fixture.events("available"), QStringList(QStringLiteral("available -1")));
+        fixture.postFile(MD_FUNCTION_CODE_UPGRADE, QStringLiteral("firmware.bin"));
+        QTRY_COMPARE(fixture.events("available"), texts({"available -1"}));
         fakeHid().setPresent(true);
-        fixture.postFile(RequestKind::MD_FUNCTION_CODE_UPGRADE, QStringLiteral("firmware.bin"));
-        QTRY_COMPARE(fixture.events("available").size(), 2);
+        fixture.postFile(MD_FUNCTION_CODE_UPGRADE, QStringLiteral("firmware.bin"));
         QTRY_COMPARE(fixture.linesWith("send request  ok").size(), 1); // the panel never answers
         QVERIFY(fixture.thread.isUpgrading());
     }
@@ -134,7 +120,7 @@ private slots:
         ThreadFixture fixture;
         fixture.thread.start();
         fakeHid().setWriteResult(-1);
-        fixture.post(RequestKind::MD_FUNCTION_CODE_HARDWARE_VERSION);
+        fixture.post(MD_FUNCTION_CODE_HARDWARE_VERSION);
         QTRY_VERIFY(fixture.linesWith("send request  error").size() >= 2);
         const int before = fixture.linesWith("send request  error").size();
         const int reads = fakeHid().readTimeouts().size();

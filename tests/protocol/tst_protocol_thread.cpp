@@ -1,40 +1,13 @@
+#include "platform/desktop.h"
 #include "threadfixture.h"
 
 #include <QElapsedTimer>
 #include <QtTest>
 
-using vorlinmodel::RequestKind;
-
 class ThreadTest : public QObject
 {
     Q_OBJECT
 private slots:
-    void initFailureIsReported()
-    {
-        renewFakeHid();
-        fakeHid().setInitResult(-1);
-        LogCapture log;
-        vorlinmodel::FunctionManager store;
-        vorlinmodel::ProtocolThread thread(store);
-        QVERIFY(!thread.Init());
-        QCOMPARE(log.lines().last(), QStringLiteral("3 Failed to initialize the hid"));
-        fakeHid().setInitResult(0);
-        QVERIFY(thread.Init());
-        QCOMPARE(log.lines().last(), QStringLiteral("1 Initialize the hid successfully"));
-    }
-
-    void queueIsFirstInFirstOut()
-    {
-        ThreadFixture fixture; // not started: the test takes
-        fixture.post(RequestKind::MD_FUNCTION_CODE_SELECT_PAGE, 1);
-        fixture.post(RequestKind::MD_FUNCTION_CODE_SELECT_PAGE, 2);
-        vorlinmodel::Request request;
-        QVERIFY(fixture.thread.takeRequest(request));
-        QCOMPARE(request.layoutId, 1U);
-        fixture.thread.clearRequests();
-        QVERIFY(!fixture.thread.takeRequest(request));
-    }
-
     void requestsAreTakenInOrderOnePerPass()
     {
         ThreadFixture fixture;
@@ -42,11 +15,10 @@ private slots:
         fakeHid().setOnWrite(
             [&pollsBefore](const QByteArray &) { pollsBefore << fakeHid().readTimeouts().size(); });
         for (quint32 page = 1; page <= 3; ++page)
-            fixture.post(RequestKind::MD_FUNCTION_CODE_SELECT_PAGE, 1, page);
+            fixture.post(MD_FUNCTION_CODE_SELECT_PAGE, 1, page);
         fixture.thread.start();
-        QTRY_COMPARE(fixture.messages(), QStringList({QStringLiteral("07 02 00 00 00 01 01"),
-                                                      QStringLiteral("07 02 00 00 00 01 02"),
-                                                      QStringLiteral("07 02 00 00 00 01 03")}));
+        QTRY_COMPARE(fixture.messages(),
+                     texts({"07 02 00 00 00 01 01", "07 02 00 00 00 01 02", "07 02 00 00 00 01 03"}));
         fixture.thread.stop();
         QCOMPARE(pollsBefore, QList<int>({0, 1, 2}));
     }
@@ -57,10 +29,39 @@ private slots:
         QCOMPARE(fixture.thread.pollingPeriod(), 10);
         fixture.thread.start();
         fakeHid().send(hex("00 02 00 00 02 00 05 41"));
-        QTRY_COMPARE(fixture.events("received"), QStringList(QStringLiteral("received 05 41")));
+        QTRY_COMPARE(fixture.events("received"), texts({"received 05 41"}));
         QCOMPARE(fixture.thread.pollingPeriod(), 2);
-        fixture.thread.setPollingPeriod(5);
-        QCOMPARE(fixture.thread.pollingPeriod(), 5);
+    }
+
+    void pressGivesTheCommand_data()
+    {
+        QTest::addColumn<int>("fid");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("home page") << 1 << QString::fromLatin1(vorlindesk::DefaultHomePage);
+        QTest::newRow("file") << 2 << QStringLiteral("some text");
+        QTest::newRow("multiple actions: no text") << 4 << QString();
+        QTest::newRow("text output") << 15 << QStringLiteral("some text");
+        QTest::newRow("unknown function: no text") << 77 << QString();
+    }
+
+    void pressGivesTheCommand()
+    {
+        QFETCH(int, fid);
+        QFETCH(QString, text);
+        ThreadFixture fixture;
+        const vorlinmodel::key_id_t key{1, 2, 3};
+        fixture.store.createKeyAttribute(key, fid);
+        fixture.store.setUrlOrPath(key, QStringLiteral("some text"));
+        fixture.thread.start();
+        fakeHid().send(wholeReport("01 04 00 00 00 01 02 04 08"));       // a key without a record: nothing
+        fakeHid().send(wholeReport("01 06 00 00 00 01 02 03 0f 00 00")); // an action list: no press
+        fakeHid().send(wholeReport("01 04 00 00 00 01 02 03 08"));
+        QTRY_COMPARE(fixture.events(),
+                     QStringList({QStringLiteral("received 01 06 00 00 00 01 02 03 0f 00 00"),
+                                  QStringLiteral("exec %1 %2").arg(fid).arg(text)}));
+        QCOMPARE(fixture.linesWith("xecCommand"),
+                 QStringList({QStringLiteral("1 execCommand Layoutid:1 Pageid:2 Keyid:3 fid:%1 ").arg(fid),
+                              QStringLiteral("1 -sigDealExecCommand-strUrlOrPath=[%1] ").arg(text)}));
     }
 
     void stopEndsEveryWait_data()
@@ -83,17 +84,14 @@ private slots:
         fakeHid().setPresent(present);
         fixture.thread.start();
         if (upgrading) {
-            QFile(QStringLiteral("firmware.bin")).open(QIODevice::WriteOnly);
-            fixture.postFile(RequestKind::MD_FUNCTION_CODE_UPGRADE, QStringLiteral("firmware.bin"));
-            QTRY_COMPARE(fixture.events("available"), QStringList(QStringLiteral("available 1")));
+            writeFile(QStringLiteral("firmware.bin"), {});
+            fixture.postFile(MD_FUNCTION_CODE_UPGRADE, QStringLiteral("firmware.bin"));
+            QTRY_COMPARE(fixture.events("available"), texts({"available 1"}));
             QVERIFY(fixture.thread.isUpgrading());
         }
         if (delay > 0) {
-            vorlinmodel::Request request;
-            request.functionCode = 12;
-            request.value = delay;
-            fixture.thread.postRequest(request);
-            fixture.post(RequestKind::MD_FUNCTION_CODE_HOME_LAYOUT, 1);
+            fixture.postBlockDelay(delay);
+            fixture.post(MD_FUNCTION_CODE_HOME_LAYOUT, 1);
             QTRY_COMPARE(fakeHid().written().size(), 1);
         }
         QElapsedTimer stopwatch;
@@ -109,19 +107,11 @@ private slots:
     {
         ThreadFixture fixture;
         fakeHid().setOpenable({FakeHid::DefaultPath, "mine"});
-        fixture.postFile(RequestKind::SetDevicePath, {}, QStringLiteral("mine"));
-        fixture.postFile(RequestKind::SetDevicePath, {}, {});
+        fixture.postFile(SetDevicePath, {}, QStringLiteral("mine"));
+        fixture.postFile(SetDevicePath, {}, {});
         fixture.thread.start();
         QTRY_COMPARE(fakeHid().opened(), QList<QByteArray>{"mine"});
-        QCOMPARE(fixture.events("log"), QStringList(QStringLiteral("log new hidpath:mine\n")));
-    }
-
-    void firstOpeningIsNoReturn()
-    {
-        ThreadFixture fixture;
-        fixture.thread.start();
-        QTRY_VERIFY(fakeHid().readTimeouts().size() >= 3);
-        QVERIFY(fakeHid().written().isEmpty());
+        QCOMPARE(fixture.events("log"), texts({"log new hidpath:mine\n"}));
     }
 };
 

@@ -3,22 +3,23 @@
 
 #include <QByteArray>
 #include <QList>
-#include <QString>
 #include <QVector>
 #include <condition_variable>
+#include <deque>
 #include <functional>
-#include <memory>
 #include <mutex>
 #include <optional>
+#include <string>
+#include <vector>
 
 /// One collection that the fake lists.
 struct FakeCollection
 {
-    QByteArray path;
+    std::string path;
     int usagePage = 0;
-    QString product = QStringLiteral("Key panel");
-    QString manufacturer = {};
-    QString serialNumber = {};
+    std::wstring product = L"Key panel";
+    std::wstring manufacturer = {};
+    std::wstring serialNumber = {};
     bool nullTexts = false; ///< as the library lists texts that it could not read
 };
 
@@ -28,44 +29,88 @@ class FakeHid
 {
 public:
     static constexpr char DefaultPath[] = "\\\\?\\hid#fake&Col02";
+    using Hook = std::function<void(const QByteArray &report)>;
 
-    void setPresent(bool present); ///< false: as if unplugged; a blocked read ends with an error
-    void setCollections(QVector<FakeCollection> collections); ///< one with DefaultPath at first
-    void setOpenable(QList<QByteArray> paths); ///< which paths can be opened; DefaultPath at first
+    struct State // for the functions of the library
+    {
+        std::mutex mutex;
+        std::condition_variable changed;
+        bool present = true;
+        QVector<FakeCollection> collections{{DefaultPath, 0xFF00}};
+        QList<QByteArray> openable{DefaultPath};
+        int initResult = 0;
+        std::optional<int> writeResult;
+        int writesBeforeFailure = -1;
+        bool failRead = false;
+        std::optional<std::wstring> errorText = L"fake error";
+        bool instantTimeouts = false;
+        std::deque<QByteArray> toRead;
+        Hook onWrite;
+        // Not lists of Qt, which would share their data with the copies that are handed out: the thread
+        // checker does not understand that.
+        std::vector<QByteArray> written;
+        std::vector<int> readTimeouts;
+        std::vector<QByteArray> opened;
+        int enumerations = 0;
+        int openHandles = 0;
+        int openListings = 0;
+    };
 
-    void setInitResult(int result);
-    void
-    setWriteResult(std::optional<int> result); ///< what hid_write returns; nothing = all that was asked for
-    void failWriteAfter(int successes); ///< so many writes succeed, then one fails, then all succeed again
-    void setReadResult(std::optional<int> result);  ///< what every read returns
-    void failNextRead();                            ///< the next read that finds nothing else fails, once
-    void setErrorText(std::optional<QString> text); ///< of hid_error; nothing = a null pointer
-    void setInstantTimeouts(bool on); ///< a read without data returns at once instead of after its time-out
-
+    /// False: as if unplugged; a blocked read ends with an error.
+    void setPresent(bool present) { set(&State::present, present); }
+    void setCollections(QVector<FakeCollection> list) { set(&State::collections, std::move(list)); }
+    /// Which paths can be opened; DefaultPath at first.
+    void setOpenable(QList<QByteArray> paths) { set(&State::openable, std::move(paths)); }
+    void setInitResult(int result) { set(&State::initResult, result); }
+    /// What hid_write returns; nothing = all that was asked for.
+    void setWriteResult(std::optional<int> result) { set(&State::writeResult, result); }
+    /// So many writes succeed, then one fails, then all succeed again.
+    void failWriteAfter(int successes) { set(&State::writesBeforeFailure, successes); }
+    /// The next read that finds nothing else fails, once.
+    void failNextRead() { set(&State::failRead, true); }
+    /// Of hid_error; nothing = a null pointer.
+    void setErrorText(std::optional<std::wstring> text) { set(&State::errorText, std::move(text)); }
+    /// A read without data returns at once instead of after its time-out.
+    void setInstantTimeouts(bool on) { set(&State::instantTimeouts, on); }
+    /// Runs after each successful write, on the writing thread and without a lock; may call send().
+    void setOnWrite(Hook hook) { set(&State::onWrite, std::move(hook)); }
     /// Appends a report (padded to 64 bytes) to what reads hand out.
     void send(const QByteArray &report);
-    int unread() const;
 
-    /// Runs after each successful write, on the writing thread and without a lock; may call send().
-    void setOnWrite(std::function<void(const QByteArray &report)> hook);
-
-    QList<QByteArray> written() const; ///< every report that was written successfully, in order
-    void forgetWritten();
-    QList<int> readTimeouts() const;  ///< time-outs of the reads so far, ms
-    QList<QByteArray> opened() const; ///< paths of every attempt to open, in order
-    int enumerations() const;
-    int openHandles() const;  ///< above 0 when a test ends: a handle leaked
-    int openListings() const; ///< enumerations that were not freed
-    int initCalls() const;
-    int exitCalls() const;
-
-    struct State; // for the functions of the library
-    FakeHid();
-    ~FakeHid();
-    State &state() { return *mpState; }
+    /// Every report that was written successfully, in order.
+    QList<QByteArray> written() { return list(&State::written); }
+    QList<int> readTimeouts() { return list(&State::readTimeouts); } ///< of the reads so far, ms
+    QList<QByteArray> opened() { return list(&State::opened); } ///< paths of every attempt to open, in order
+    int enumerations() { return get(&State::enumerations); }
+    int openHandles() { return get(&State::openHandles); }   ///< above 0 when a test ends: a handle leaked
+    int openListings() { return get(&State::openListings); } ///< enumerations that were not freed
+    State &state() { return mState; }
 
 private:
-    const std::unique_ptr<State> mpState;
+    /// Changes one thing under the lock and wakes a read.
+    template <typename Value, typename Given>
+    void set(Value State::*member, Given given)
+    {
+        const std::lock_guard lock(mState.mutex);
+        mState.*member = std::move(given);
+        mState.changed.notify_all();
+    }
+
+    template <typename Value>
+    Value get(Value State::*member)
+    {
+        const std::lock_guard lock(mState.mutex);
+        return mState.*member;
+    }
+
+    template <typename Value>
+    QList<Value> list(std::vector<Value> State::*member)
+    {
+        const std::vector<Value> values = get(member);
+        return QList<Value>(values.begin(), values.end());
+    }
+
+    State mState;
 };
 
 FakeHid &fakeHid();

@@ -3,7 +3,6 @@
 
 #include <QtTest>
 #include <atomic>
-#include <set>
 
 class tst_ui_main_workers : public QObject
 {
@@ -25,30 +24,6 @@ private slots:
         QTRY_COMPARE(done.load(), 20);
         workers.cancel();
         QCOMPARE(order, QVector<int>({0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19}));
-    }
-
-    void everyJobHasAThreadOfItsOwn()
-    {
-        std::mutex mutex;
-        std::set<std::thread::id> threads;
-        ReceiveWorkers workers;
-        std::atomic<int> done = 0;
-        std::atomic<bool> go = false;
-        for (int i = 0; i < 5; ++i) {
-            workers.start([&] {
-                while (!go)
-                    std::this_thread::yield();
-                const std::lock_guard lock(mutex);
-                threads.insert(std::this_thread::get_id());
-                ++done;
-            });
-        }
-        QCOMPARE(workers.threadCount(), 5);
-        go = true;
-        QTRY_COMPARE(done.load(), 5);
-        workers.cancel();
-        QCOMPARE(threads.size(), size_t(5));
-        QCOMPARE(threads.count(std::this_thread::get_id()), size_t(0));
     }
 
     void finishedThreadsAreNotHoarded()

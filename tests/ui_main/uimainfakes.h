@@ -1,9 +1,9 @@
-/// Stand-ins for what surrounds the main window: the panel's thread, the context, the desktop, the log.
+/// Stand-ins for what surrounds the main window: the panel's thread, the context, the desktop.
 #pragma once
 
 #include "base/iframeworkcontext.h"
 #include "base/language.h"
-#include "base/log.h"
+#include "base/logcapture.h"
 #include "model/functionmanager.h"
 #include "platform/desktop.h"
 #include "protocol/iprotocolthread.h"
@@ -92,34 +92,6 @@ public:
     bool succeeds = true;
 };
 
-/// Collects the log lines, "[level] text", while it lives.
-class LogCapture
-{
-public:
-    LogCapture()
-    {
-        vorlindesk::setLogSink([this](vorlindesk::LogLevel level, const QString &text) {
-            const std::lock_guard lock(mMutex);
-            mLines.append(QStringLiteral("[%1] %2").arg(int(level)).arg(text));
-        });
-    }
-    ~LogCapture() { vorlindesk::setLogSink({}); }
-    int count(const char *text) const
-    {
-        const std::lock_guard lock(mMutex);
-        return int(mLines.filter(QString::fromUtf8(text)).size());
-    }
-    QStringList matching(const char *text) const
-    {
-        const std::lock_guard lock(mMutex);
-        return mLines.filter(QString::fromUtf8(text));
-    }
-
-private:
-    mutable std::mutex mMutex;
-    QStringList mLines;
-};
-
 /// A folder of its own as the current directory.
 class TemporaryCurrentDir
 {
@@ -135,38 +107,34 @@ private:
 
 namespace PanelMessage {
 
-inline QByteArray message(int code, const QByteArray &body)
+inline QByteArray withLength(const QByteArray &bytes)
 {
     QByteArray length(4, '\0');
-    qToLittleEndian<quint32>(quint32(body.size()), length.data());
-    return char(code) + length + body;
+    qToLittleEndian<quint32>(quint32(bytes.size()), length.data());
+    return length + bytes;
+}
+
+inline QByteArray message(int code, const QByteArray &body)
+{
+    return char(code) + withLength(body);
 }
 
 /// A page of @p keyCount records of function 5, key ids 1 to 15 in turn.
 inline QByteArray page(int layoutId, int pageId, int keyCount)
 {
     constexpr int recordSize = 272;
-    QByteArray body(1, char(layoutId));
-    body.append(char(pageId));
-    for (int i = 0; i < keyCount; ++i) {
-        QByteArray record(recordSize, '\0');
-        record[0] = char(layoutId);
-        record[1] = char(pageId);
-        record[2] = char(1 + i % 15);
-        record[5] = 5;
-        body += record;
-    }
+    const QByteArray ids = QByteArray(1, char(layoutId)) + char(pageId);
+    QByteArray body = ids;
+    for (int i = 0; i < keyCount; ++i)
+        body += (ids + char(1 + i % 15) + QByteArray(2, '\0') + '\5').leftJustified(recordSize, '\0');
     return message(8, body);
 }
 
 /// A picture of a key; without @p bytes the empty one, which is counted like any other.
 inline QByteArray picture(int layoutId, int pageId, int keyId, const QByteArray &bytes = {})
 {
-    QByteArray body(1, char(layoutId));
-    body.append(char(pageId)).append(char(keyId)).append(char(9));
-    QByteArray count(4, '\0');
-    qToLittleEndian<quint32>(quint32(bytes.size()), count.data());
-    return message(1, bytes.isEmpty() ? body + '\0' : body + count + bytes);
+    const QByteArray ids = QByteArray(1, char(layoutId)) + char(pageId) + char(keyId) + '\x09';
+    return message(1, ids + (bytes.isEmpty() ? QByteArray(1, '\0') : withLength(bytes)));
 }
 
 inline QByteArray hardwareVersion()

@@ -40,9 +40,7 @@ inline QByteArray pngFile(int width, int height)
     QByteArray file = QByteArray::fromHex("89504e470d0a1a0a0000000d49484452");
     for (const int size : {width, height})
         file += QByteArray::fromHex("0000") + static_cast<char>(size >> 8) + static_cast<char>(size & 0xFF);
-    return file + QByteArray(33, '\0') +
-           QByteArray::fromHex("49454e44"
-                               "ae426082");
+    return file + QByteArray(33, '\0') + QByteArray::fromHex("49454e44 ae426082");
 }
 
 inline QByteArray littleEndian(int value, int bytes)

@@ -9,15 +9,15 @@
 class PanelProcess
 {
 public:
-    /// Starts the panel and points this process's drop-in library at it. @return whether it runs.
-    bool start(const QStringList &arguments = {})
+    /// Starts the panel with Linux paths and more @p arguments, and points this process's drop-in library at
+    /// it. @return whether it runs.
+    bool start(const char *arguments = "")
     {
         const QDir folder(QCoreApplication::applicationDirPath());
+        const QString all = QLatin1String("--headless --port 0 --paths linux ") + QLatin1String(arguments);
         mProcess.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        mProcess.start(
-            folder.filePath(QStringLiteral(PANEL_PROGRAM)),
-            QStringList{QStringLiteral("--headless"), QStringLiteral("--port"), QStringLiteral("0")} +
-                arguments);
+        mProcess.start(folder.filePath(QStringLiteral(PANEL_PROGRAM)),
+                       all.split(QLatin1Char(' '), Qt::SkipEmptyParts));
         const QByteArray line = readLine();
         qputenv("VIRTUAL_PANEL_PORT", line.mid(5));
         return line.startsWith("port ");

@@ -1,6 +1,7 @@
 // The face of a key, as the panel and the editor draw it.
 #include "model/keyface.h"
 
+#include <QPainter>
 #include <QtTest>
 
 using namespace vorlinmodel;
@@ -13,9 +14,8 @@ class TestPanelKeyface : public QObject
     static QImage halves()
     {
         QImage image(90, 84, QImage::Format_RGB32);
-        for (int y = 0; y < 84; ++y)
-            for (int x = 0; x < 90; ++x)
-                image.setPixelColor(x, y, x < 45 ? Qt::red : Qt::blue);
+        image.fill(Qt::red);
+        QPainter(&image).fillRect(45, 0, 45, 84, Qt::blue);
         return image;
     }
 
@@ -33,22 +33,16 @@ class TestPanelKeyface : public QObject
     }
 
 private slots:
-    void pictureFillsTheKey_data()
-    {
-        QTest::addColumn<QSize>("size");
-        QTest::newRow("one key") << QSize(90, 84);
-        QTest::newRow("merged key") << QSize(180, 168);
-    }
-
     void pictureFillsTheKey()
     {
-        QFETCH(QSize, size);
         KeyFace face;
         face.picture = halves();
-        const QImage drawn = renderKeyFace(face, size);
-        QCOMPARE(drawn.size(), size);
-        QCOMPARE(drawn.pixelColor(2, 2), QColor(Qt::red));
-        QCOMPARE(drawn.pixelColor(size.width() - 3, size.height() - 3), QColor(Qt::blue));
+        for (const QSize size : {QSize(90, 84), QSize(180, 168)}) { // one key, a merged key
+            const QImage drawn = renderKeyFace(face, size);
+            QCOMPARE(drawn.size(), size);
+            QCOMPARE(drawn.pixelColor(2, 2), QColor(Qt::red));
+            QCOMPARE(drawn.pixelColor(size.width() - 3, size.height() - 3), QColor(Qt::blue));
+        }
     }
 
     void titleStandsWhereItsAlignmentSays_data()
@@ -97,8 +91,6 @@ private slots:
         QCOMPARE(renderKeyFace(face, QSize(90, 84), 0.5).pixelColor(10, 10), QColor(Qt::blue));
         face.imageEffects = ImageZooming;
         QCOMPARE(renderKeyFace(face, QSize(90, 84), 0), renderKeyFace(face, QSize(90, 84), 1));
-        QVERIFY(isMovingEffect(Marquee) && isMovingEffect(ImageZooming));
-        QVERIFY(!isMovingEffect(ColourInversion) && !isMovingEffect(NoEffect));
     }
 };
 

@@ -10,69 +10,29 @@ class WireKeyNames : public QObject
     Q_OBJECT
 
 private slots:
-    void codeOfAName_data()
+    /// The edges of the blocks of codes, and names that are easily mixed up.
+    void codeOfAName()
     {
-        QTest::addColumn<int>("code");
-
-        const auto row = [](const char *name, int code) {
-            QTest::newRow(name) << code;
-        };
-        row("Windows", 227);
-        row("Alt", 226);
-        row("Right Shift", 229);
-        row("Alt gr", 230);
-        row("Delete", 42);
-        row("Delete Forward", 76);
-        row("ESC", 41);
-        row("END", 77);
-        row("PageUp", 78);
-        row("PageDown", 79);
-        row("RightArrow", 79);
-        row("F1", 58);
-        row("F12", 69);
-        row("A", 4);
-        row("Z", 29);
-        row("1", 30);
-        row("9", 38);
-        row("0", 39);
-        row("\\", 49);
-        row(";", 51);
-        row("/", 56);
-        row("&", 199);
-        row("&&", 200);
-        row("||", 202);
-        row("#", 204);
-        row("@", 205);
-        row("!", 206);
-        row("left ctrl", 0);
-        row("a", 0);
-        row("undefine", 0);
-        row("", 0);
-    }
-
-    void codeOfAName() { QTEST(int(KeyNames::code(QString::fromLatin1(QTest::currentDataTag()))), "code"); }
-
-    void nameOfACode_data()
-    {
-        QTest::addColumn<int>("code");
-        QTest::addColumn<QString>("name");
-
-        QTest::newRow("nothing") << 0 << QStringLiteral("undefine");
-        QTest::newRow("gap where the standard has PageUp") << 75 << QStringLiteral("undefine");
-        QTest::newRow("shared by two names") << 79 << QStringLiteral("PageDown");
-        QTest::newRow("left arrow") << 80 << QStringLiteral("LeftArrow");
-        QTest::newRow("gap between backslash and semicolon") << 50 << QStringLiteral("undefine");
-        QTest::newRow("doubled sign") << 200 << QStringLiteral("&&");
-        QTest::newRow("at") << 205 << QStringLiteral("@");
-        QTest::newRow("left control") << 224 << QStringLiteral("Left Ctrl");
-        QTest::newRow("gap before the modifiers") << 223 << QStringLiteral("undefine");
-        QTest::newRow("highest") << 255 << QStringLiteral("undefine");
+        using Names = QVector<QPair<const char *, int>>;
+        const Names printed{{"A", 4},  {"Z", 29},  {"1", 30}, {"9", 38},
+                            {"0", 39}, {"\\", 49}, {";", 51}, {"/", 56}};
+        const Names signs{{"&", 199}, {"&&", 200}, {"||", 202}, {"#", 204}, {"!", 206}};
+        const Names others{{"Delete", 42}, {"Delete Forward", 76}, {"F1", 58},
+                           {"F12", 69},    {"PageUp", 78},         {"RightArrow", 79}};
+        const Names modifiers{{"Alt", 226}, {"Windows", 227}, {"Right Shift", 229}, {"Alt gr", 230}};
+        const Names unknown{{"left ctrl", 0}, {"a", 0}, {"undefine", 0}, {"", 0}};
+        for (const auto &[name, code] : printed + signs + others + modifiers + unknown)
+            QVERIFY2(KeyNames::code(QString::fromLatin1(name)) == code, name);
     }
 
     void nameOfACode()
     {
-        QFETCH(int, code);
-        QTEST(KeyNames::name(quint8(code)), "name");
+        for (const int gap : {0, 50, 75, 223, 255})
+            QCOMPARE(KeyNames::name(quint8(gap)), QStringLiteral("undefine"));
+        QCOMPARE(KeyNames::name(79), QStringLiteral("PageDown")); // shared by two names
+        QCOMPARE(KeyNames::name(80), QStringLiteral("LeftArrow"));
+        QCOMPARE(KeyNames::name(205), QStringLiteral("@"));
+        QCOMPARE(KeyNames::name(224), QStringLiteral("Left Ctrl"));
     }
 
     /// A slip in one of the hundred rows (two names with one code, a name twice) shows here.
@@ -89,41 +49,21 @@ private slots:
         QCOMPARE(changed, QStringList(QStringLiteral("RightArrow")));
     }
 
-    void combinations_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QByteArray>("codes");
-
-        QTest::newRow("empty") << QString() << hex("00 00 00 00");
-        QTest::newRow("four empty parts and a fifth") << QStringLiteral("####") << hex("00 00 00 00");
-        QTest::newRow("two names, two empty parts") << QStringLiteral("Left Ctrl#C##") << hex("E0 06 00 00");
-        QTest::newRow("two names") << QStringLiteral("Left Ctrl#C") << hex("E0 06 00 00");
-        QTest::newRow("empty part in front") << QStringLiteral("#Alt#Tab") << hex("00 E2 2B 00");
-        QTest::newRow("unknown name") << QStringLiteral("Ctrl#A#undefine#1") << hex("00 04 00 1E");
-        QTest::newRow("parts beyond the fourth") << QStringLiteral("A#B#C#D#E") << hex("04 05 06 07");
-    }
-
     void combinations()
     {
-        QFETCH(QString, text);
-        QTEST(keyCombinationCodes(text), "codes");
-    }
-
-    void combinationText_data()
-    {
-        QTest::addColumn<QByteArray>("codes");
-        QTest::addColumn<QString>("text");
-
-        QTest::newRow("two keys") << hex("E0 06 00 00") << QStringLiteral("Left Ctrl#C#undefine#undefine");
-        QTest::newRow("missing bytes read as 0")
-            << hex("04") << QStringLiteral("A#undefine#undefine#undefine");
-        QTest::newRow("more than four bytes") << hex("04 05 06 07 08") << QStringLiteral("A#B#C#D");
+        QCOMPARE(keyCombinationCodes({}), hex("00 00 00 00"));
+        QCOMPARE(keyCombinationCodes(QStringLiteral("####")), hex("00 00 00 00"));
+        QCOMPARE(keyCombinationCodes(QStringLiteral("Left Ctrl#C##")), hex("E0 06 00 00"));
+        QCOMPARE(keyCombinationCodes(QStringLiteral("#Alt#Tab")), hex("00 E2 2B 00"));
+        QCOMPARE(keyCombinationCodes(QStringLiteral("Ctrl#A#undefine#1")), hex("00 04 00 1E"));
+        QCOMPARE(keyCombinationCodes(QStringLiteral("A#B#C#D#E")), hex("04 05 06 07"));
     }
 
     void combinationText()
     {
-        QFETCH(QByteArray, codes);
-        QTEST(keyCombinationText(codes), "text");
+        QCOMPARE(keyCombinationText(hex("E0 06 00 00")), QStringLiteral("Left Ctrl#C#undefine#undefine"));
+        QCOMPARE(keyCombinationText(hex("04")), QStringLiteral("A#undefine#undefine#undefine"));
+        QCOMPARE(keyCombinationText(hex("04 05 06 07 08")), QStringLiteral("A#B#C#D"));
     }
 };
 
