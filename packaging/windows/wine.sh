@@ -46,9 +46,20 @@ start_display() {
     local number
     read -r -t 30 number <"$1/display" || { echo "Xvfb does not start: see $1/xvfb.log" >&2; return 1; }
     export DISPLAY=:$number
-    openbox >"$1/openbox.log" 2>&1 &
-    display_pids+=($!)
-    until xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 0x; do sleep 0.1; done
+    start_window_manager "$1/openbox.log"
+}
+
+# start_window_manager LOG: returns when it manages the display. On a busy machine it has been seen to end right after
+# its start, so it is started again then.
+start_window_manager() {
+    local manager end=$((SECONDS + 30))
+    openbox >"$1" 2>&1 & manager=$!
+    until xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 0x; do
+        [ $SECONDS -lt $end ] || { echo "openbox does not start: see $1" >&2; return 1; }
+        kill -0 $manager 2>/dev/null || { openbox >>"$1" 2>&1 & manager=$!; }
+        sleep 0.1
+    done
+    display_pids+=($manager)
 }
 
 stop_displays() {
