@@ -49,8 +49,8 @@ start_display() {
     start_window_manager "$1/openbox.log"
 }
 
-# start_window_manager LOG: returns when it manages the display. On a busy machine it has been seen to end right after
-# its start, so it is started again then.
+# start_window_manager LOG: returns when it manages the display. While other displays were starting it has been seen to end
+# with "Failed to open the display", so it is started again then.
 start_window_manager() {
     local manager end=$((SECONDS + 30))
     openbox >"$1" 2>&1 & manager=$!
