@@ -10,7 +10,7 @@
 #include "model/functionmanager.h"
 #include "protocol/protocolthread.h"
 #include "resources/translationresources.h"
-#include "ui_main/knownpicture.h"
+#include "ui_common/knownpicture.h"
 #include "ui_main/widget.h"
 
 #include <QApplication>

@@ -49,6 +49,24 @@ CustomLayoutKey keyOf(const QSettings &settings, int number)
 
 } // namespace
 
+QVector<int> customLayoutIds()
+{
+    constexpr int standardLayout = 1;
+    constexpr int largestLayout = 255; // travels in one byte
+    const QLatin1String prefix("layout_");
+    QVector<int> ids;
+    if (!QFile::exists(vorlindesk::Paths::customLayoutIni()))
+        return ids;
+    vorlindesk::IniFile file(vorlindesk::Paths::customLayoutIni());
+    for (const QString &group : file->childGroups()) {
+        const int id = group.startsWith(prefix) ? group.mid(prefix.size()).toInt() : 0;
+        if (id > standardLayout && id <= largestLayout && group == prefix + QString::number(id))
+            ids.append(id);
+    }
+    std::sort(ids.begin(), ids.end());
+    return ids;
+}
+
 std::optional<CustomLayout> loadCustomLayout(int layoutId)
 {
     vorlindesk::IniFile file(vorlindesk::Paths::customLayoutIni());

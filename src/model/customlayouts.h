@@ -21,6 +21,9 @@ struct CustomLayout
     QVector<CustomLayoutKey> keys; ///< logical keys 1 to n, in order
 };
 
+/// Ids of the custom layouts in the file, ascending; the standard layout (1) is not among them.
+QVector<int> customLayoutIds();
+
 /// Reads the group "layout_%1"; at most 15 keys are taken, whatever "num" says. Nothing when there is no such
 /// group.
 std::optional<CustomLayout> loadCustomLayout(int layoutId);

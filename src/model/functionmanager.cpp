@@ -150,6 +150,16 @@ QList<key_id_t> FunctionManager::getKeys() const
     return mpParts->records.keys();
 }
 
+void FunctionManager::setKeyAttribute(const key_id_t &key, const key_atttribute_t &record)
+{
+    mpParts->records.set(key, record);
+}
+
+bool FunctionManager::moveCustomImage(const key_id_t &key, const QString &from, const QString &to)
+{
+    return mpParts->records.moveCustomImage(key, from, to);
+}
+
 void FunctionManager::deleteKeyAttribute(const key_id_t &key)
 {
     mpParts->records.remove(key);

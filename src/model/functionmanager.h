@@ -82,6 +82,8 @@ public:
     void deletePageKeys(int lid, int pageid) override;
     bool addKeyAttribute(const key_id_t &key, int fid) override;
     QString getImportDirectory() const override;
+    void setKeyAttribute(const key_id_t &key, const key_atttribute_t &record) override;
+    bool moveCustomImage(const key_id_t &key, const QString &from, const QString &to) override;
 
 private:
     struct Parts;

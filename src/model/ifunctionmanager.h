@@ -89,6 +89,10 @@ public:
     /// Creates the record, or sets the function of the one that stands (which resets its attributes).
     virtual bool addKeyAttribute(const key_id_t &key, int fid) = 0;
     virtual QString getImportDirectory() const = 0; ///< late in the list: the order above is fixed
+    /// Sets the whole record of a key at once, so that no reader sees half of it; creates it if need be.
+    virtual void setKeyAttribute(const key_id_t &key, const key_atttribute_t &record) = 0;
+    /// Sets the custom image of a key to @p to if it is still @p from. @return whether it was.
+    virtual bool moveCustomImage(const key_id_t &key, const QString &from, const QString &to) = 0;
 };
 
 } // namespace vorlinmodel

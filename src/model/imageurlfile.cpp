@@ -97,9 +97,7 @@ bool writePicture(const Item &item)
 // Somebody may have set another picture since the record was read; that one stays.
 void setMovedPicture(IFunctionManager &store, Item &item)
 {
-    const auto now = store.getKeyAttribute(item.key);
-    if (now && now->customImage == item.attribute.customImage)
-        store.setCustomImage(item.key, item.target);
+    store.moveCustomImage(item.key, item.attribute.customImage, item.target);
     item.attribute.customImage = item.target;
 }
 

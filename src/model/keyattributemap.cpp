@@ -77,6 +77,15 @@ void KeyAttributeMap::add(const key_id_t &key, int fid)
         Log(LogLevel::Info, LogText::SetFunction, key.lid, key.pageid, key.kid, fid);
 }
 
+void KeyAttributeMap::set(const key_id_t &key, const key_atttribute_t &record)
+{
+    {
+        const std::lock_guard lock(mMutex);
+        mRecords.insert_or_assign(key, record);
+    }
+    Log(LogLevel::Info, LogText::SetRecord, key.lid, key.pageid, key.kid, record.mFId);
+}
+
 void KeyAttributeMap::remove(const key_id_t &key)
 {
     bool wasEmpty = false;
@@ -156,6 +165,19 @@ void KeyAttributeMap::setCustomImage(const key_id_t &key, const QString &path)
     };
     if (change(key, apply))
         Log(LogLevel::Info, LogText::SetCustomImage, key.lid, key.pageid, key.kid, qUtf8Printable(path));
+}
+
+bool KeyAttributeMap::moveCustomImage(const key_id_t &key, const QString &from, const QString &to)
+{
+    bool moved = false;
+    change(key, [&](key_atttribute_t &record) {
+        moved = record.customImage == from;
+        if (moved)
+            record.customImage = to;
+    });
+    if (moved)
+        Log(LogLevel::Info, LogText::SetCustomImage, key.lid, key.pageid, key.kid, qUtf8Printable(to));
+    return moved;
 }
 
 void KeyAttributeMap::setCustomVideo(const key_id_t &key, const QString &path)

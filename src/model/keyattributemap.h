@@ -22,6 +22,7 @@ public:
     bool create(const key_id_t &key, int fid);
     /// Creates the record, or sets the function of the one that stands; nobody ever sees the key without one.
     void add(const key_id_t &key, int fid);
+    void set(const key_id_t &key, const key_atttribute_t &record);
     void remove(const key_id_t &key);
 
     std::optional<key_atttribute_t> find(const key_id_t &key) const;
@@ -33,6 +34,7 @@ public:
     QString dump(const key_id_t &key) const; ///< the record in one line, for the log
 
     void setCustomImage(const key_id_t &key, const QString &path); ///< also shows it
+    bool moveCustomImage(const key_id_t &key, const QString &from, const QString &to); ///< if it is @p from
     void setCustomVideo(const key_id_t &key, const QString &path); ///< into the default image
     void setImageEffects(const key_id_t &key, int value);
     void setDisplayMode(const key_id_t &key, int value);

@@ -94,11 +94,20 @@ bool isMovingEffect(int imageEffects)
 
 QImage renderKeyFace(const KeyFace &face, const QSize &size, double phase)
 {
-    QImage image(size, QImage::Format_RGB32);
+    return renderKeyFace(face, size, phase, size);
+}
+
+QImage renderKeyFace(const KeyFace &face, const QSize &size, double phase, const QSize &target)
+{
+    QImage image(target, QImage::Format_RGB32);
+    if (image.isNull())
+        return image;
     image.fill(EmptyKey);
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform |
                            QPainter::TextAntialiasing);
+    if (target != size)
+        painter.scale(target.width() / qreal(size.width()), target.height() / qreal(size.height()));
     const QRectF area(QPointF(0, 0), size);
     drawPicture(painter, face, area, phase);
     drawTitle(painter, face, area);

@@ -31,4 +31,8 @@ bool isMovingEffect(int imageEffects);
 /// @param phase where in its round a moving effect stands, 0 to 1; a still picture of it is drawn with 0.
 QImage renderKeyFace(const KeyFace &face, const QSize &size, double phase = 0);
 
+/// The same face, as a key of @p size panel pixels shows it, drawn sharply at @p target pixels: picture and
+/// title grow together. With @p target equal to @p size these are the panel's own pixels.
+QImage renderKeyFace(const KeyFace &face, const QSize &size, double phase, const QSize &target);
+
 } // namespace vorlinmodel

@@ -72,7 +72,12 @@ QImage withoutAlpha(const QImage &image)
 
 QSize keyPixelSize(const key_id_t &key)
 {
-    const QSize cells = cellsOf(maskOf(key));
+    return keyPixelSize(maskOf(key));
+}
+
+QSize keyPixelSize(quint32 mask)
+{
+    const QSize cells = cellsOf(mask);
     return {cells.width() * PhysicalKeyWidth, cells.height() * PhysicalKeyHeight};
 }
 

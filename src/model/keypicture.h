@@ -18,6 +18,9 @@ constexpr int PhysicalKeyHeight = 84;
 /// Pixels of a key: 90 x 84, or columns x 90 by rows x 84 for a merged key of a custom layout.
 QSize keyPixelSize(const key_id_t &key);
 
+/// The same for a key that covers the physical keys of @p mask (bit p - 1 for each); 0 counts as one key.
+QSize keyPixelSize(quint32 mask);
+
 /// The key's display image (files and resources) as PNG at keyPixelSize(); nothing when there is no picture.
 std::optional<QByteArray> encodedKeyPicture(const IFunctionManager &store, const key_id_t &key);
 

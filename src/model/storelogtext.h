@@ -9,6 +9,7 @@ inline constexpr char CreateKey[] = "-createKeyAttr-lid:%d pageid:%d kid:%d fid:
 inline constexpr char KeyExists[] = "lid:%d pageid:%d kid:%d  fid:%d keyattribute exist\n";
 inline constexpr char NewRecord[] = "new key_atttribute_t ok-lid:%d pageid:%d kid:%d fid:%d";
 inline constexpr char SetFunction[] = "set fid lid:%d pageid:%d kid:%d fid:%d\n";
+inline constexpr char SetRecord[] = "set record lid:%d pageid:%d kid:%d fid:%d\n";
 inline constexpr char NoRecords[] = "mKeyAttributeMap size=0\n";
 inline constexpr char DeletedKey[] = "------------delete key_attr[%d][%d][%d]";
 

@@ -176,6 +176,7 @@ void writeMultiActions(const Write &write)
     // which the length field has room, would only destroy it.
     if (!actions || encoded.omitted > 0) {
         Log(LogLevel::Error, "%s", MultiActionsTransfer.failure);
+        write.context.unreadable = true;
         return;
     }
     logActionList(write.key, *actions, encoded);
@@ -188,6 +189,7 @@ void writeImage(const Write &write)
     const std::optional<QByteArray> picture = encodedKeyPicture(write.context.store, write.key);
     if (!picture) {
         Log(LogLevel::Error, Text::NoPicture, write.key.lid, write.key.pageid, write.key.kid);
+        write.context.unreadable = true;
         return;
     }
     build(write, static_cast<AttributeId>(write.request.attributeId), AttributeValue::file(*picture));
@@ -213,6 +215,7 @@ bool sendVideo(const Write &write)
         return false;
     }
     const std::optional<QByteArray> video = readVideo(write.record->defaultImage);
+    write.context.unreadable = !video;
     if (!video)
         return false;
     build(write, AttributeId::Video, AttributeValue::file(*video));

@@ -24,6 +24,7 @@ struct DeviceContext
     IProtocolThread &events; ///< whose signals report what happened
     RequestQueue &queue;
     std::atomic<bool> &upgrading;
+    bool unreadable; ///< set by an operation that could not read a file, and therefore wrote nothing
 };
 
 /// Carries out one request, to its end. Failures are in the log only, except where a signal reports the

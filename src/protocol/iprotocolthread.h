@@ -7,6 +7,14 @@
 
 namespace vorlinmodel {
 
+/// What became of a request.
+enum class RequestOutcome {
+    Sent,       ///< all its reports were written, or there was nothing to write
+    NoPanel,    ///< no panel was there
+    Failed,     ///< the panel was there, and a report could not be written
+    Unreadable, ///< nothing was written: a file that belongs to the request cannot be read
+};
+
 class IProtocolThread : public QThread
 {
     Q_OBJECT
@@ -39,6 +47,8 @@ signals: // all emitted on this thread, except by execCommand()
     void sigSendVideoFinished(qint32 nResult);
     void sigSendUpdateAvailable(qint32 nResult);
     void sigUpgradeFinished(qint32 nResult);
+    /// Once per request, in the order of the queue. Connect directly, and hand the values over.
+    void sigRequestDone(const vorlinmodel::Request &request, vorlinmodel::RequestOutcome outcome);
 };
 
 } // namespace vorlinmodel

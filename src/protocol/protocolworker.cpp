@@ -68,6 +68,15 @@ Request stateCheck()
     return request;
 }
 
+RequestOutcome outcome(bool sent, bool panelWasThere, bool unreadable)
+{
+    if (unreadable)
+        return RequestOutcome::Unreadable;
+    if (sent)
+        return RequestOutcome::Sent;
+    return panelWasThere ? RequestOutcome::Failed : RequestOutcome::NoPanel;
+}
+
 } // namespace
 
 ProtocolWorker::ProtocolWorker(IProtocolThread &thread, const IFunctionManager &store, ProtocolShared &shared)
@@ -76,7 +85,7 @@ ProtocolWorker::ProtocolWorker(IProtocolThread &thread, const IFunctionManager &
     , mShared(shared)
     , mpTransfer(std::make_unique<HIDTransfer>())
     , mProtocol(*mpTransfer, callbacks())
-    , mContext{mProtocol, *mpTransfer, store, thread, shared.queue, shared.upgrading}
+    , mContext{mProtocol, *mpTransfer, store, thread, shared.queue, shared.upgrading, false}
 {
     QObject::connect(
         mpTransfer.get(), &vorlindesk::ITransfer::connectState, &thread,
@@ -138,7 +147,13 @@ void ProtocolWorker::processLogged(const Request &request)
     if (!mpTransfer->isOpen() && mAbsent.contains(request))
         mpHeld = std::make_unique<vorlindesk::HeldLog>();
     const quint64 failedSends = mProtocol.failedSends();
+    const bool wasOpen = mpTransfer->isOpen();
+    const int openCount = mpTransfer->openCount();
+    mContext.unreadable = false;
     process(request);
+    const bool sent = mProtocol.failedSends() == failedSends;
+    const bool panelWasThere = wasOpen || mpTransfer->openCount() != openCount;
+    emit mThread.sigRequestDone(request, outcome(sent, panelWasThere, mContext.unreadable));
     if (mpTransfer->isOpen()) {
         mAbsent.clear();
         if (mpHeld)

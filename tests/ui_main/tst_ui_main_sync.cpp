@@ -1,6 +1,6 @@
 // The main window and the panel: asking for the version, reading the configuration, polling, coming back.
 #include "base/systemsettings.h"
-#include "ui_main/messagebox.h"
+#include "ui_common/messagebox.h"
 #include "ui_main/waitingspinnerwidget.h"
 #include "ui_main/widget.h"
 #include "uimainfakes.h"

@@ -5,7 +5,7 @@
 #include "model/keyid.h"
 #include "pageview.h"
 #include "protocol/iprotocolthread.h"
-#include "style.h"
+#include "ui_common/style.h"
 #include "wire/functioncode.h"
 
 #include <QHBoxLayout>

@@ -1,10 +1,10 @@
 #include "pageview.h"
 
-#include "knownpicture.h"
+#include "ui_common/knownpicture.h"
 #include "model/functionids.h"
 #include "model/ifunctionmanager.h"
 #include "model/keypicture.h"
-#include "style.h"
+#include "ui_common/style.h"
 
 #include <QFileInfo>
 #include <QImageReader>

@@ -1,8 +1,8 @@
 #include "statusframe.h"
 
 #include "base/language.h"
-#include "knownpicture.h"
-#include "style.h"
+#include "ui_common/knownpicture.h"
+#include "ui_common/style.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -7,11 +7,11 @@
 #include "base/systemsettings.h"
 #include "logtext.h"
 #include "mainframe.h"
-#include "messagebox.h"
+#include "ui_common/messagebox.h"
 #include "model/ifunctionmanager.h"
 #include "protocol/iprotocolthread.h"
 #include "statusframe.h"
-#include "style.h"
+#include "ui_common/style.h"
 #include "waitingspinnerwidget.h"
 
 #include <QVBoxLayout>

@@ -1,0 +1,26 @@
+/// Everything that can be set on the selected key.
+#pragma once
+
+#include "model/keyid.h"
+
+#include <QFrame>
+
+struct EditorContext;
+
+class AttributeEditor : public QFrame
+{
+    Q_OBJECT
+public:
+    AttributeEditor(EditorContext &context, QWidget *parent);
+
+    bool setup(); ///< @return false when it cannot be built
+    void showKey(const vorlinmodel::key_id_t &key); ///< key id 0: none
+    void refresh(); ///< the key was changed elsewhere; what the person is typing is left alone
+    void focusTitle();
+    void retranslate();
+
+public slots:
+    void onDataChangeHandler(const vorlinmodel::key_id_t &key_id_, int fid_, bool isDouble);
+    /// A step of the multi-action editor was clicked: names it. @p step counts from 0, -1: none.
+    void onMultiActionItemClicked(const vorlinmodel::key_id_t &key_id_, int fid_, int step);
+};

@@ -1,0 +1,35 @@
+/// What the widgets of the editor share.
+#pragma once
+
+#include "keyedits.h"
+#include "keyfaces.h"
+
+#include <array>
+
+namespace vorlindesk {
+class IFrameworkContext;
+}
+
+/// Where the child page of a key leads, as far as this run has learnt; -1 is "not set".
+struct ChildPageEntry
+{
+    qint32 layoutId = -1;
+    qint32 pageId = -1;
+    qint32 sum = -1;
+};
+
+/// Borrowed by every widget of the editor, and outlives them. User-interface thread only.
+struct EditorContext
+{
+    explicit EditorContext(vorlindesk::IFrameworkContext &context)
+        : framework(context)
+        , edits(context)
+        , faces(edits.store())
+    {}
+
+    vorlindesk::IFrameworkContext &framework;
+    KeyEdits edits;
+    KeyFaces faces;
+    bool childrenForm = false; ///< the page in view is a child page
+    std::array<ChildPageEntry, 16> childPages{}; ///< by key id, 1 to 15
+};

@@ -1,0 +1,198 @@
+#include "pendingedits.h"
+
+#include "base/paths.h"
+#include "base/systemsettings.h"
+#include "protocol/iprotocolthread.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+using vorlindesk::IniFile;
+using vorlinmodel::AttributeId;
+using vorlinmodel::key_id_t;
+using vorlinmodel::RequestOutcome;
+
+namespace {
+
+constexpr int LateAfter = 500; // ms
+const QLatin1String Group("pending");
+
+QString fileName()
+{
+    return vorlindesk::Paths::devConfigFolder() + QStringLiteral("/pending.ini");
+}
+
+std::optional<key_id_t> keyOf(const QString &name)
+{
+    static const QRegularExpression pattern(QStringLiteral("^(\\d{1,3})_(\\d{1,3})_(\\d{1,2})$"));
+    const auto match = pattern.match(name);
+    if (!match.hasMatch())
+        return std::nullopt;
+    return key_id_t{match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt()};
+}
+
+bool isAttribute(int id)
+{
+    constexpr int unused[] = {4, 16};
+    constexpr int last = static_cast<int>(AttributeId::TextOutput);
+    return id >= 1 && id <= last && std::find(std::begin(unused), std::end(unused), id) == std::end(unused);
+}
+
+} // namespace
+
+PendingEdits::PendingEdits(QObject *parent)
+    : QObject(parent)
+{
+    mLateTimer.setSingleShot(true);
+    mLateTimer.setInterval(LateAfter);
+    connect(&mLateTimer, &QTimer::timeout, this, &PendingEdits::markWhatIsLate);
+}
+
+void PendingEdits::posted(const key_id_t &key, AttributeId attribute)
+{
+    Entry &entry = mEntries[key];
+    ++entry.underWay[attribute];
+    entry.unsent.insert(attribute);
+    if (!mLateTimer.isActive())
+        mLateTimer.start();
+}
+
+void PendingEdits::done(const key_id_t &key, AttributeId attribute, RequestOutcome outcome)
+{
+    const auto found = mEntries.find(key);
+    if (found == mEntries.end())
+        return;
+    Entry &entry = found->second;
+    const auto underWay = entry.underWay.find(attribute);
+    const bool isLast = underWay == entry.underWay.end() || --underWay->second <= 0;
+    if (isLast)
+        entry.underWay.erase(attribute);
+    switch (outcome) {
+    case RequestOutcome::Sent:
+        if (isLast) // a later request of the same attribute has yet to bring the value of now
+            entry.unsent.erase(attribute);
+        if (!entry.unsent.empty())
+            return;
+        setMark(key, entry, Mark::None, Cause::None);
+        mEntries.erase(found);
+        return;
+    case RequestOutcome::NoPanel:
+        return setMark(key, entry, Mark::Pending, Cause::NoPanel);
+    case RequestOutcome::Failed:
+        return setMark(key, entry, Mark::Failed, Cause::Refused);
+    case RequestOutcome::Unreadable:
+        return setMark(key, entry, Mark::Failed, Cause::Unreadable);
+    }
+}
+
+void PendingEdits::forget(const key_id_t &key)
+{
+    const auto found = mEntries.find(key);
+    if (found == mEntries.end())
+        return;
+    found->second.unsent.clear(); // but not what is under way: its outcomes will come, before those of the new ones
+    if (!found->second.underWay.empty())
+        return;
+    setMark(key, found->second, Mark::None, Cause::None);
+    mEntries.erase(found);
+}
+
+void PendingEdits::setMark(const key_id_t &key, Entry &entry, Mark mark, Cause cause)
+{
+    if (entry.mark == mark && entry.cause == cause)
+        return;
+    entry.mark = mark;
+    entry.cause = cause;
+    emit sigMarkChanged(key);
+}
+
+/// Long transfers, and requests that wait behind them.
+void PendingEdits::markWhatIsLate()
+{
+    for (auto &[key, entry] : mEntries) {
+        if (entry.mark == Mark::None)
+            setMark(key, entry, Mark::Pending, Cause::Late);
+    }
+}
+
+PendingEdits::Mark PendingEdits::mark(const key_id_t &key) const
+{
+    const auto entry = mEntries.find(key);
+    return entry == mEntries.end() ? Mark::None : entry->second.mark;
+}
+
+QString PendingEdits::reason(const key_id_t &key) const
+{
+    const auto entry = mEntries.find(key);
+    switch (entry == mEntries.end() ? Cause::None : entry->second.cause) {
+    case Cause::NoPanel:
+        return tr("Waits for the panel");
+    case Cause::Late:
+        return tr("Waits to be sent");
+    case Cause::Refused:
+        return tr("The panel did not take it. It is sent again at the next connection.");
+    case Cause::Unreadable:
+        return tr("Its picture, video or action list cannot be read, so it was not sent.");
+    case Cause::None:
+        break;
+    }
+    return {};
+}
+
+QVector<key_id_t> PendingEdits::keys() const
+{
+    QVector<key_id_t> keys;
+    for (const auto &entry : mEntries)
+        keys.append(entry.first);
+    return keys;
+}
+
+PendingEdits::Attributes PendingEdits::attributes(const key_id_t &key) const
+{
+    const auto entry = mEntries.find(key);
+    return entry == mEntries.end() ? Attributes{} : entry->second.unsent;
+}
+
+bool PendingEdits::load()
+{
+    if (!QFile::exists(fileName()))
+        return true;
+    IniFile ini(fileName());
+    ini->beginGroup(Group);
+    for (const QString &name : ini->childKeys()) {
+        const auto key = keyOf(name);
+        if (!key)
+            continue;
+        Entry entry;
+        for (const QString &id : ini->value(name).toString().split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+            if (isAttribute(id.toInt()))
+                entry.unsent.insert(static_cast<AttributeId>(id.toInt()));
+        }
+        if (entry.unsent.empty())
+            continue;
+        entry.mark = Mark::Pending;
+        entry.cause = Cause::NoPanel;
+        mEntries.insert_or_assign(*key, entry);
+        emit sigMarkChanged(*key);
+    }
+    return ini->status() == QSettings::NoError;
+}
+
+bool PendingEdits::save() const
+{
+    if (mEntries.empty() && !QFile::exists(fileName()))
+        return true;
+    IniFile ini(fileName());
+    ini->clear();
+    ini->beginGroup(Group);
+    for (const auto &[key, entry] : mEntries) {
+        QStringList ids;
+        for (const AttributeId id : entry.unsent)
+            ids.append(QString::number(static_cast<int>(id)));
+        ini->setValue(QStringLiteral("%1_%2_%3").arg(key.lid).arg(key.pageid).arg(key.kid),
+                      ids.join(QLatin1Char(' ')));
+    }
+    ini->endGroup();
+    ini->sync();
+    return ini->status() != QSettings::AccessError;
+}

@@ -1,0 +1,70 @@
+/// Which edits the panel has not taken yet, key by key and attribute by attribute.
+#pragma once
+
+#include "base/request.h"
+#include "model/keyid.h"
+
+#include <QObject>
+#include <QTimer>
+#include <QVector>
+#include <map>
+#include <set>
+
+namespace vorlinmodel {
+enum class RequestOutcome;
+}
+
+/// User-interface thread only. An attribute is pending from the moment when its request is posted until the panel
+/// has taken it; without a panel that outlasts the program ("devConfig/pending.ini").
+class PendingEdits : public QObject
+{
+    Q_OBJECT
+public:
+    enum class Mark {
+        None,
+        Pending, ///< waits for a panel
+        Failed,  ///< could not be sent, and is tried again at the next connection
+    };
+    using Attributes = std::set<vorlinmodel::AttributeId>;
+
+    explicit PendingEdits(QObject *parent = nullptr);
+
+    void posted(const vorlinmodel::key_id_t &key, vorlinmodel::AttributeId attribute);
+    void done(const vorlinmodel::key_id_t &key, vorlinmodel::AttributeId attribute,
+              vorlinmodel::RequestOutcome outcome);
+
+    /// Everything of the key is about to be posted anew.
+    void forget(const vorlinmodel::key_id_t &key);
+
+    /// What the person is shown. An edit that is merely under way for less than half a second has no mark.
+    Mark mark(const vorlinmodel::key_id_t &key) const;
+    QString reason(const vorlinmodel::key_id_t &key) const; ///< for the tool tip; empty without a mark
+
+    QVector<vorlinmodel::key_id_t> keys() const;                      ///< with anything pending, ascending
+    Attributes attributes(const vorlinmodel::key_id_t &key) const; ///< empty when nothing is pending
+
+    /// Adds what the file holds. Entries that name no key or attribute are left out. @return false when the file
+    /// cannot be read.
+    bool load();
+    bool save() const; ///< @return false when it cannot be written
+
+signals:
+    void sigMarkChanged(const vorlinmodel::key_id_t &key);
+
+private:
+    enum class Cause { None, NoPanel, Late, Refused, Unreadable };
+
+    struct Entry
+    {
+        std::map<vorlinmodel::AttributeId, int> underWay; ///< requests in the queue
+        Attributes unsent;                                ///< that the panel has not taken
+        Mark mark = Mark::None;
+        Cause cause = Cause::None;
+    };
+
+    void setMark(const vorlinmodel::key_id_t &key, Entry &entry, Mark mark, Cause cause);
+    void markWhatIsLate();
+
+    std::map<vorlinmodel::key_id_t, Entry> mEntries;
+    QTimer mLateTimer;
+};

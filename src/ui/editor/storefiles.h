@@ -1,0 +1,50 @@
+/// Keeps the records of the store on disk, so that they outlive the program.
+#pragma once
+
+#include "base/handover.h"
+
+#include <QObject>
+#include <QTimer>
+#include <thread>
+
+namespace vorlinmodel {
+class IFunctionManager;
+}
+class PendingEdits;
+
+/// User-interface thread; the records are written by a thread of its own, one writing at a time.
+class StoreFiles : public QObject
+{
+    Q_OBJECT
+public:
+    static constexpr int Rest = 1000; ///< ms without a change, after which is saved
+
+    /// Both outlive this object.
+    StoreFiles(vorlinmodel::IFunctionManager &store, PendingEdits &pending, QObject *parent = nullptr);
+    ~StoreFiles() override; ///< saves what has not been saved
+
+    /// Reads records and pending edits. @return false when a file cannot be read (it is kept aside).
+    bool load();
+    void touch(); ///< something changed: saved after the rest
+    /// Waits for a writing that is under way, and drops one that is due: the panel is about to be read, which empties
+    /// the folder with the pictures. touch() afterwards.
+    void pause();
+    bool saveNow(); ///< and waits for it. @return false when a file could not be written
+
+    /// Writes a picture under a name that its content gives it. @return the path; empty when it could not be written.
+    static QString keepPicture(const QByteArray &picture);
+
+signals:
+    void sigSaveFailed();
+
+private:
+    void startSaving();
+    void join();
+
+    vorlinmodel::IFunctionManager &mStore;
+    PendingEdits &mPending;
+    QTimer mTimer;
+    bool mDirty = false;
+    std::thread mThread;
+    vorlindesk::HandOver mHandOver;
+};
