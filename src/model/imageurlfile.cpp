@@ -130,6 +130,23 @@ bool movePictures(IFunctionManager &store, std::vector<Item> &items)
     return done;
 }
 
+// Pictures of keys that are gone, or that show another one. Only names that this program gives are touched.
+void removeUnusedPictures(const IFunctionManager &store)
+{
+    static const QRegularExpression pattern(QStringLiteral("^(\\d{1,9})_(\\d{1,9})_(\\d{1,2})\\.png$"));
+    QDir folder(Paths::imageFolder());
+    for (const QString &name : folder.entryList(QDir::Files)) {
+        const auto match = pattern.match(name);
+        if (!match.hasMatch())
+            continue;
+        const key_id_t key{match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt()};
+        const auto record = store.getKeyAttribute(key);
+        const bool used = record && QFileInfo(record->customImage).fileName() == name;
+        if (!used)
+            folder.remove(name);
+    }
+}
+
 QString storedImage(const Item &item)
 {
     const QFileInfo image(item.attribute.customImage);
@@ -236,6 +253,8 @@ bool saveAllKeyData(IFunctionManager &store)
     for (const Item &item : items)
         writeItem(ini.settings(), item);
     ini->sync();
+    if (ini->status() != QSettings::AccessError)
+        removeUnusedPictures(store);
     // A file that could not be parsed is kept aside by now, and replaced all the same.
     return moved && ini->status() != QSettings::AccessError;
 }

@@ -6,7 +6,8 @@ namespace vorlinmodel {
 class IFunctionManager;
 
 /// Writes every record of @p store, and puts each custom picture into the image folder under its key's name;
-/// a picture that lay elsewhere is set in the store under its new path. The file is replaced whole.
+/// a picture that lay elsewhere is set in the store under its new path. The file is replaced whole, then
+/// pictures that no record uses any more are removed from the folder.
 /// @return false when a picture or the file could not be written (logged); the rest is written all the same.
 bool saveAllKeyData(IFunctionManager &store);
 

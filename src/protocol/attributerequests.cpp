@@ -42,8 +42,10 @@ struct Write
 int build(const Write &write, AttributeId wireId, const QByteArray &value)
 {
     const Request &request = write.request;
-    return write.context.protocol.buildKeyAddressed(request.layoutId, request.pageId, request.keyId,
-                                                    static_cast<quint32>(wireId), value);
+    const int size = write.context.protocol.buildKeyAddressed(request.layoutId, request.pageId, request.keyId,
+                                                              static_cast<quint32>(wireId), value);
+    write.context.unreadable = size < 0; // beyond 10 MiB: nothing of it is sent
+    return size;
 }
 
 /// For the values that go by themselves. A long title or address does not fit in one report and goes in

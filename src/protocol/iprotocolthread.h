@@ -12,7 +12,7 @@ enum class RequestOutcome {
     Sent,       ///< all its reports were written, or there was nothing to write
     NoPanel,    ///< no panel was there
     Failed,     ///< the panel was there, and a report could not be written
-    Unreadable, ///< nothing was written: a file that belongs to the request cannot be read
+    Unreadable, ///< nothing was written: a file that belongs to the request cannot be read, or is too long
 };
 
 class IProtocolThread : public QThread

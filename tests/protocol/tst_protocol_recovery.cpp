@@ -53,6 +53,51 @@ private slots:
         QTRY_COMPARE(fixture.events(), texts({"connected", "disconnected"}));
     }
 
+    void outcomes_data()
+    {
+        QTest::addColumn<bool>("present");
+        QTest::addColumn<int>("failAfter"); // writes
+        QTest::addColumn<quint32>("attribute");
+        QTest::addColumn<int>("outcome");
+        using vorlinmodel::RequestOutcome;
+        QTest::newRow("sent") << true << -1 << 6U << int(RequestOutcome::Sent);
+        QTest::newRow("no panel") << false << -1 << 6U << int(RequestOutcome::NoPanel);
+        QTest::newRow("a report that fails") << true << 0 << 6U << int(RequestOutcome::Failed);
+        // The transfer counts as a success then, but the panel does not have all of it.
+        QTest::newRow("the last block of a picture fails") << true << 1 << 6000U << int(RequestOutcome::Failed);
+        QTest::newRow("a picture that cannot be read") << true << -1 << 9U << int(RequestOutcome::Unreadable);
+        QTest::newRow("a key without a record: nothing to send") << true << -1 << 1000U << int(RequestOutcome::Sent);
+    }
+
+    void outcomes()
+    {
+        QFETCH(bool, present);
+        QFETCH(int, failAfter);
+        QFETCH(quint32, attribute);
+        QFETCH(int, outcome);
+        ThreadFixture fixture;
+        const vorlinmodel::key_id_t key{1, 1, 1};
+        if (attribute != 1000)
+            fixture.store.createKeyAttribute(key, 5);
+        if (attribute == 6000) // two blocks: the second one fails
+            fixture.store.setTitle(key, QString(60, QLatin1Char('x')));
+        fixture.store.setCustomImage(key, QStringLiteral("missing.png"));
+        std::atomic<int> reported = -1;
+        QObject::connect(
+            &fixture.thread, &vorlinmodel::IProtocolThread::sigRequestDone, &fixture.thread,
+            [&reported](const vorlinmodel::Request &request, vorlinmodel::RequestOutcome is) {
+                if (request.functionCode == 1) // not the question for the state that follows a broken link
+                    reported = int(is);
+            },
+            Qt::DirectConnection);
+        fakeHid().setPresent(present);
+        if (failAfter >= 0)
+            fakeHid().failWriteAfter(failAfter);
+        fixture.post(MD_FUNCTION_CODE_KEY_ATTRIBUTE, 1, 1, 1, 5, attribute >= 1000 ? 6 : attribute);
+        fixture.thread.start();
+        QTRY_COMPARE(reported.load(), outcome);
+    }
+
     void writeErrorWithinTheFirstRequest()
     {
         ThreadFixture fixture;

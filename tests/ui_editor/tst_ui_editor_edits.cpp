@@ -2,10 +2,16 @@
 #include "editorfixture.h"
 #include "model/functionids.h"
 #include "model/ifunctionmanager.h"
+#include "model/multiaction.h"
 #include "ui_editor/keyclipboard.h"
+
+#include <QClipboard>
+
+Q_DECLARE_METATYPE(KeyState)
 
 using vorlinmodel::AttributeId;
 using vorlinmodel::key_id_t;
+using Panel = EditorFixture::Panel;
 
 namespace {
 
@@ -20,6 +26,52 @@ void drop(EditorFixture &fixture, const key_id_t &key, int fid)
         edits.send(key, fid, AttributeId::FunctionId);
         edits.send(key, fid, AttributeId::Picture);
     });
+}
+
+void setTitle(EditorFixture &fixture, const key_id_t &key, const QString &title)
+{
+    KeyEdits &edits = fixture.editor().edits;
+    edits.change(QStringLiteral("title"), {key}, [&] {
+        edits.store().setTitle(key, title);
+        edits.send(key, 0, AttributeId::Title);
+    });
+}
+
+void setPicture(EditorFixture &fixture, const key_id_t &key, const QString &path)
+{
+    KeyEdits &edits = fixture.editor().edits;
+    edits.change(QStringLiteral("picture"), {key}, [&] {
+        edits.store().setCustomImage(key, path);
+        edits.send(key, 0, AttributeId::Image);
+    });
+}
+
+QRgb pixelOf(const EditorFixture &fixture, const key_id_t &key)
+{
+    return QImage(fixture.store.getCustomImage(key)).pixel(10, 10);
+}
+
+QByteArray panelTitle(EditorFixture &fixture, const key_id_t &key)
+{
+    return fixture.panel->state().keys.value({key.lid, key.pageid, key.kid}).record.title;
+}
+
+QVector<int> numbers(const QVector<AttributeId> &attributes)
+{
+    QVector<int> result;
+    for (const AttributeId attribute : attributes)
+        result.append(int(attribute));
+    return result;
+}
+
+KeyState stateOf(int fid, const std::function<void(KeyState &)> &change = {})
+{
+    EditorFixture fixture;
+    fixture.store.createKeyAttribute(Key, fid);
+    KeyState state = captureKeyState(fixture.store, Key);
+    if (change)
+        change(state);
+    return state;
 }
 
 } // namespace
@@ -48,6 +100,249 @@ private slots:
                  QStringList({QStringLiteral("1: 1 1 3, fid 5, id 8"), QStringLiteral("1: 1 1 3, fid 5, id 9"),
                               QStringLiteral("1: 1 1 3, fid 5, id 6")}));
         QCOMPARE(edits.store().getTitleText(Key), QStringLiteral("a"));
+    }
+
+    void oneStepPerWish()
+    {
+        EditorFixture fixture;
+        KeyEdits &edits = fixture.editor().edits;
+        edits.change(QStringLiteral("outer"), {Key}, [&] {
+            drop(fixture, Key, 5);
+            drop(fixture, Other, 6); // a key that the outer step did not name
+        });
+        edits.change(QStringLiteral("nothing"), {Key}, [] {});
+        QCOMPARE(edits.history().count(), 1);
+        edits.undo();
+        QVERIFY(edits.store().getKeys().isEmpty());
+    }
+
+    void typingIsSentOnceItRests()
+    {
+        EditorFixture fixture;
+        KeyEdits &edits = fixture.editor().edits;
+        drop(fixture, Key, 5);
+        fixture.takeRequests();
+        const auto type = [&](const QString &text) {
+            edits.changeAtRest(QStringLiteral("title"), Key, AttributeId::Title,
+                               [&] { edits.store().setTitle(Key, text); });
+        };
+        type(QStringLiteral("a"));
+        type(QStringLiteral("ab"));
+        QVERIFY(fixture.requests.isEmpty());
+        QTRY_COMPARE(fixture.requests, QStringList({QStringLiteral("1: 1 1 3, fid 5, id 6")}));
+        fixture.takeRequests();
+        QCOMPARE(edits.history().count(), 2);
+        type(QStringLiteral("abc")); // and back before it rests: nothing has changed
+        type(QStringLiteral("ab"));
+        edits.flush();
+        QCOMPARE(edits.history().count(), 2);
+        QVERIFY(fixture.requests.isEmpty());
+    }
+
+    void whatFollowsAFunction_data()
+    {
+        QTest::addColumn<KeyState>("from");
+        QTest::addColumn<KeyState>("to");
+        QTest::addColumn<QVector<int>>("ids");
+        const auto titled = [](KeyState &state) {
+            state.record->strTitle = QStringLiteral("x");
+            state.record->titleFontSize = 20;
+        };
+        const auto address = [](KeyState &state) { state.record->strAppOrUrl = QStringLiteral("http://a"); };
+        const auto steps = [](KeyState &state) { state.steps = {{3, 0, QStringLiteral("a")}}; };
+        QTest::newRow("a free key stays free") << KeyState() << KeyState() << QVector<int>{};
+        QTest::newRow("cleared") << stateOf(5, titled) << KeyState() << QVector<int>{13};
+        QTest::newRow("new, with the defaults") << KeyState() << stateOf(5) << QVector<int>{8, 9};
+        QTest::newRow("new, with values") << KeyState() << stateOf(5, titled) << QVector<int>{8, 9, 7, 6};
+        QTest::newRow("replaced: what the panel would keep") << stateOf(5, titled) << stateOf(6)
+                                                             << QVector<int>{8, 9, 7, 6};
+        QTest::newRow("an address that became a text") << stateOf(3, address) << stateOf(15)
+                                                       << QVector<int>{8, 9, 17};
+        QTest::newRow("an address that nothing follows") << stateOf(3, address) << stateOf(5)
+                                                         << QVector<int>{8, 9, 11};
+        QTest::newRow("steps that nothing follows") << stateOf(4, steps) << stateOf(5) << QVector<int>{8, 9, 15};
+        QTest::newRow("one value") << stateOf(3) << stateOf(3, address) << QVector<int>{11};
+        QTest::newRow("steps") << stateOf(4) << stateOf(4, steps) << QVector<int>{15};
+        QTest::newRow("no picture to send") << KeyState() << stateOf(11) << QVector<int>{8};
+    }
+
+    void whatFollowsAFunction()
+    {
+        QFETCH(KeyState, from);
+        QFETCH(KeyState, to);
+        QFETCH(QVector<int>, ids);
+        QCOMPARE(numbers(attributesToSend(from, to)), ids);
+    }
+
+    void undoBringsThePictureBackThatASavingHasReplaced()
+    {
+        EditorFixture fixture;
+        KeyEdits &edits = fixture.editor().edits;
+        drop(fixture, Key, 5);
+        setPicture(fixture, Key, pictureFile(fixture.path("red.png"), Qt::red));
+        QVERIFY(edits.saveNow()); // the key's own file is red now
+        setPicture(fixture, Key, pictureFile(fixture.path("blue.png"), Qt::blue));
+        QVERIFY(edits.saveNow()); // and now blue
+        QCOMPARE(pixelOf(fixture, Key), QColor(Qt::blue).rgb());
+        edits.undo();
+        QCOMPARE(pixelOf(fixture, Key), QColor(Qt::red).rgb());
+        QVERIFY(edits.saveNow());
+        QCOMPARE(QImage(fixture.path("devConfig/image/1_1_3.png")).pixel(1, 1), QColor(Qt::red).rgb());
+        edits.redo();
+        QCOMPARE(pixelOf(fixture, Key), QColor(Qt::blue).rgb());
+    }
+
+    void swappedKeysKeepTheirPicturesOnDisk()
+    {
+        EditorFixture fixture;
+        KeyEdits &edits = fixture.editor().edits;
+        for (const auto &[key, colour] : {std::pair{Key, Qt::red}, std::pair{Other, Qt::blue}}) {
+            drop(fixture, key, 5);
+            setPicture(fixture, key, pictureFile(fixture.path("source.png"), colour));
+            QVERIFY(edits.saveNow());
+        }
+        const KeyState key = captureKeyState(fixture.store, Key);
+        const KeyState other = captureKeyState(fixture.store, Other);
+        edits.place(QStringLiteral("swap"), {{Key, other}, {Other, key}});
+        QVERIFY(edits.saveNow());
+        fixture.restart();
+        QCOMPARE(pixelOf(fixture, Key), QColor(Qt::blue).rgb());
+        QCOMPARE(pixelOf(fixture, Other), QColor(Qt::red).rgb());
+        fixture.editor().edits.place(QStringLiteral("clear"), {{Other, {}}});
+        QVERIFY(fixture.editor().edits.saveNow());
+        QVERIFY(!QFile::exists(fixture.path("devConfig/image/1_2_4.png")));
+    }
+
+    void editsRestOnDisk()
+    {
+        EditorFixture fixture;
+        drop(fixture, Key, 5);
+        setTitle(fixture, Key, QStringLiteral("标题"));
+        QTRY_VERIFY(QFile::exists(fixture.path("devConfig/image/imageUrl.ini"))); // by itself, after the rest
+        setTitle(fixture, Key, QStringLiteral("later")); // and at the end
+        fixture.restart();
+        QCOMPARE(fixture.store.getTitleText(Key), QStringLiteral("later"));
+    }
+
+    void editsWithoutAPanelAreSentWhenItComes()
+    {
+        EditorFixture fixture(Panel::Absent);
+        QSignalSpy marks(&fixture.editor().edits, &KeyEdits::sigMarkChanged);
+        fixture.panel->with([](PanelModel &panel) { // what it shows from before, under another function
+            PanelState state = panel.state();
+            state.keys.insert({1, 1, 3}, newPanelKey({1, 1, 3}, 9));
+            state.keys[{1, 1, 3}].record.title = "old";
+            panel.setState(state);
+        });
+        drop(fixture, Key, 5);
+        QTRY_COMPARE(int(fixture.editor().edits.pending().mark(Key)), int(PendingEdits::Mark::Pending));
+        QVERIFY(!fixture.editor().edits.pending().reason(Key).isEmpty());
+        QVERIFY(marks.count() > 0);
+        fixture.restart(); // the marks outlive the program
+        QCOMPARE(int(fixture.editor().edits.pending().mark(Key)), int(PendingEdits::Mark::Pending));
+
+        fixture.panel->plug();
+        fixture.editor().edits.sendPending();
+        QTRY_COMPARE(int(fixture.editor().edits.pending().mark(Key)), int(PendingEdits::Mark::None));
+        QTRY_COMPARE(int(fixture.panel->state().keys.value({1, 1, 3}).record.functionId), 5);
+        QCOMPARE(panelTitle(fixture, Key), QByteArray());
+        QCOMPARE(fixture.panel->violations(), QStringList());
+        fixture.restart();
+        QVERIFY(fixture.editor().edits.pending().keys().isEmpty());
+    }
+
+    void aFailedSendIsMarkedAndTriedAgain()
+    {
+        EditorFixture fixture(Panel::Present);
+        KeyEdits &edits = fixture.editor().edits;
+        drop(fixture, Key, 5);
+        QTRY_VERIFY(edits.pending().keys().isEmpty());
+        fakeHid().setWriteResult(-1);
+        setTitle(fixture, Key, QStringLiteral("t"));
+        QTRY_COMPARE(int(edits.pending().mark(Key)), int(PendingEdits::Mark::Failed));
+        fakeHid().setWriteResult(std::nullopt);
+        edits.sendPending();
+        QTRY_COMPARE(int(edits.pending().mark(Key)), int(PendingEdits::Mark::None));
+        QCOMPARE(panelTitle(fixture, Key), QByteArray("t"));
+    }
+
+    void aReadKeepsWhatThePanelHasNotTaken()
+    {
+        EditorFixture fixture(Panel::Absent);
+        KeyEdits &edits = fixture.editor().edits;
+        drop(fixture, Key, vorlinmodel::MULTIPLE_ACTIONS_FID);
+        edits.change(QStringLiteral("steps"), {Key}, [] {
+            QString error;
+            vorlinmodel::multiActionStore().writeActionsByKeyId(1, 1, 3, {{100, 7, {}}}, error);
+        });
+        QTRY_COMPARE(int(edits.pending().mark(Key)), int(PendingEdits::Mark::Pending));
+        fixture.store.createKeyAttribute(Other, 6); // the panel has it, as far as we know
+        QSignalSpy changed(&edits, &KeyEdits::sigKeysChanged);
+        edits.beginRead();
+        fixture.store.deleteKeyAttribute(Key); // what a read of a panel does that shows something else there
+        fixture.store.createKeyAttribute(Key, 7);
+        const key_id_t fresh{1, 1, 9};
+        fixture.store.createKeyAttribute(fresh, 8);
+        edits.endRead(true, {Key, fresh});
+
+        QCOMPARE(fixture.store.getKeyAttribute(Key)->mFId, vorlinmodel::MULTIPLE_ACTIONS_FID);
+        QCOMPARE(vorlinmodel::multiActionStore().readActionsByKeyId(1, 1, 3).size(), 1);
+        QVERIFY(!fixture.store.getKeyAttribute(Other)); // the panel has it no more
+        QVERIFY(fixture.store.getKeyAttribute(fresh));
+        QVERIFY(changed.count() > 0);
+        edits.undo(); // a read can be taken back, too
+        QVERIFY(fixture.store.getKeyAttribute(Other));
+        QVERIFY(!fixture.store.getKeyAttribute(fresh));
+    }
+
+    void anIncompleteReadRemovesNothing()
+    {
+        EditorFixture fixture;
+        KeyEdits &edits = fixture.editor().edits;
+        fixture.store.createKeyAttribute(Other, 16);
+        fixture.store.setUrlOrPath(Other, QStringLiteral("Left Ctrl#C"));
+        edits.beginRead();
+        fixture.store.setUrlOrPath(Other, QStringLiteral("Left Ctrl#C#undefine#undefine"));
+        edits.endRead(false, {});
+        QVERIFY(fixture.store.getKeyAttribute(Other));
+        QCOMPARE(edits.history().count(), 0); // nothing that a person would notice
+    }
+
+    void clipboardKeepsTheArrangement()
+    {
+        EditorFixture fixture;
+        for (const int kid : {7, 8, 12})
+            fixture.store.createKeyAttribute({1, 1, kid}, kid);
+        KeyClipboard::copy(fixture.store, {{1, 1, 7}, {1, 1, 8}, {1, 1, 12}});
+        QMap<int, int> placed; // key id to function
+        for (const KeyPlacement &placement : KeyClipboard::placements({{1, 2, 5}}))
+            placed.insert(placement.key.kid, placement.state.fid());
+        QCOMPARE(placed, (QMap<int, int>{{5, 7}, {10, 12}})); // what would lie right of the panel is left out
+        KeyClipboard::copy(fixture.store, {{1, 1, 7}});
+        QCOMPARE(KeyClipboard::placements({{1, 2, 5}, {2, 3, 15}}).size(), 2);
+    }
+
+    void foreignBytesOnTheClipboardAreNoKeys_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QByteArray sound;
+        QDataStream stream(&sound, QIODevice::WriteOnly);
+        stream.setVersion(QDataStream::Qt_5_15);
+        stream << quint32(0x564B4559) << qint32(1) << qint32(3) << stateOf(5);
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("cut") << sound.left(sound.size() - 1);
+        QTest::newRow("another magic") << QByteArray(sound).replace(0, 1, "W");
+        QTest::newRow("key 16") << QByteArray(sound).replace(11, 1, "\x10");
+        QTest::newRow("4 billion steps") << sound.left(sound.size() - 16) + QByteArray(16, '\xFF');
+    }
+
+    void foreignBytesOnTheClipboardAreNoKeys()
+    {
+        QFETCH(QByteArray, bytes);
+        auto *data = new QMimeData; // taken by the clipboard
+        data->setData(QString::fromLatin1(KeyClipboard::Format), bytes);
+        QGuiApplication::clipboard()->setMimeData(data);
+        QVERIFY(KeyClipboard::placements({Key}).isEmpty());
     }
 };
 

@@ -54,9 +54,8 @@ void KeyEdits::connectProtocolThread(IProtocolThread &thread)
 
 void KeyEdits::requestDone(const key_id_t &key, AttributeId attribute, RequestOutcome outcome)
 {
-    const bool wasPending = mPending.mark(key) != PendingEdits::Mark::None;
     mPending.done(key, attribute, outcome);
-    if (wasPending || outcome != RequestOutcome::Sent)
+    if (mPending.isOnDisk() || outcome != RequestOutcome::Sent)
         mFiles.touch();
 }
 

@@ -90,11 +90,8 @@ void PendingEdits::forget(const key_id_t &key)
     const auto found = mEntries.find(key);
     if (found == mEntries.end())
         return;
-    found->second.unsent.clear(); // but not what is under way: its outcomes will come, before those of the new ones
-    if (!found->second.underWay.empty())
-        return;
-    setMark(key, found->second, Mark::None, Cause::None);
-    mEntries.erase(found);
+    // Not what is under way: its outcomes will come, before those of the new ones. The mark stays until then, too.
+    found->second.unsent.clear();
 }
 
 void PendingEdits::setMark(const key_id_t &key, Entry &entry, Mark mark, Cause cause)
@@ -173,12 +170,13 @@ bool PendingEdits::load()
         entry.mark = Mark::Pending;
         entry.cause = Cause::NoPanel;
         mEntries.insert_or_assign(*key, entry);
+        mOnDisk = true;
         emit sigMarkChanged(*key);
     }
     return ini->status() == QSettings::NoError;
 }
 
-bool PendingEdits::save() const
+bool PendingEdits::save()
 {
     if (mEntries.empty() && !QFile::exists(fileName()))
         return true;
@@ -194,5 +192,6 @@ bool PendingEdits::save() const
     }
     ini->endGroup();
     ini->sync();
+    mOnDisk = !mEntries.empty();
     return ini->status() != QSettings::AccessError;
 }

@@ -33,7 +33,7 @@ public:
     void done(const vorlinmodel::key_id_t &key, vorlinmodel::AttributeId attribute,
               vorlinmodel::RequestOutcome outcome);
 
-    /// Everything of the key is about to be posted anew.
+    /// The key has something pending, all of which is now posted anew.
     void forget(const vorlinmodel::key_id_t &key);
 
     /// What the person is shown. An edit that is merely under way for less than half a second has no mark.
@@ -46,7 +46,8 @@ public:
     /// Adds what the file holds. Entries that name no key or attribute are left out. @return false when the file
     /// cannot be read.
     bool load();
-    bool save() const; ///< @return false when it cannot be written
+    bool save(); ///< @return false when it cannot be written
+    bool isOnDisk() const { return mOnDisk; } ///< the file holds something, as far as known
 
 signals:
     void sigMarkChanged(const vorlinmodel::key_id_t &key);
@@ -67,4 +68,5 @@ private:
 
     std::map<vorlinmodel::key_id_t, Entry> mEntries;
     QTimer mLateTimer;
+    bool mOnDisk = false;
 };
