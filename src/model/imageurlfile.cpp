@@ -46,6 +46,9 @@ constexpr QLatin1String AppOrUrl("appOrUrl");
 
 const QLatin1String ResourcePrefix(":/");
 
+/// Pixels. The largest key, all 15 in one, has 450 x 252; a camera's pictures would fill disk and history in vain.
+constexpr int LargestSide = 1024;
+
 struct Item
 {
     key_id_t key;
@@ -82,11 +85,22 @@ bool readPicture(Item &item)
     return true;
 }
 
-// What Qt cannot decode within its limits is kept as it is rather than lost.
+/// @return the picture as it is kept; null when the bytes stay as they are: small PNGs, and what cannot be decoded
+/// within the limits, which is rather kept than lost.
+QImage keptPicture(const QByteArray &bytes)
+{
+    const QImage image = decodePicture(bytes);
+    if (image.isNull())
+        return {};
+    if (image.width() > LargestSide || image.height() > LargestSide)
+        return image.scaled(LargestSide, LargestSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    return bytes.startsWith("\x89PNG") ? QImage() : image;
+}
+
 bool writePicture(const Item &item)
 {
     QString error;
-    const QImage image = item.picture.startsWith("\x89PNG") ? QImage() : decodePicture(item.picture);
+    const QImage image = keptPicture(item.picture);
     const bool written = image.isNull() ? writeWholeFile(item.target, item.picture, error)
                                         : replacePicture(item.target, image);
     if (!written)

@@ -14,6 +14,18 @@ using vorlinmodel::Request;
 using vorlinmodel::RequestKind;
 using vorlinmodel::RequestOutcome;
 
+namespace {
+
+QVector<key_id_t> keysOf(const QVector<KeyPlacement> &placements)
+{
+    QVector<key_id_t> keys;
+    for (const KeyPlacement &placement : placements)
+        keys.append(placement.key);
+    return keys;
+}
+
+} // namespace
+
 KeyEdits::KeyEdits(vorlindesk::IFrameworkContext &context, QObject *parent)
     : QObject(parent)
     , mContext(context)
@@ -61,10 +73,7 @@ void KeyEdits::requestDone(const key_id_t &key, AttributeId attribute, RequestOu
 
 KeyEdits::States KeyEdits::capture(const QVector<key_id_t> &keys) const
 {
-    States states;
-    for (const key_id_t &key : keys)
-        states.insert(key, captureKeyState(mStore, key));
-    return states;
+    return captureKeyStates(mStore, keys);
 }
 
 void KeyEdits::change(const QString &text, const QVector<key_id_t> &keys,
@@ -89,8 +98,9 @@ void KeyEdits::push(const QString &text, const States &before)
 {
     QVector<KeyChange> changes;
     QVector<key_id_t> keys;
+    const States after = capture(before.keys().toVector());
     for (auto entry = before.cbegin(); entry != before.cend(); ++entry) {
-        const KeyState now = captureKeyState(mStore, entry.key());
+        const KeyState now = after.value(entry.key());
         if (sameKey(*entry, now))
             continue;
         changes.append({entry.key(), *entry, now});
@@ -130,17 +140,12 @@ void KeyEdits::flush()
 
 void KeyEdits::place(const QString &text, const QVector<KeyPlacement> &placements)
 {
-    QVector<key_id_t> keys;
-    for (const KeyPlacement &placement : placements)
-        keys.append(placement.key);
-    change(text, keys, [this, &placements] { apply(placements); });
+    change(text, keysOf(placements), [this, &placements] { apply(placements); });
 }
 
 void KeyEdits::apply(const QVector<KeyPlacement> &placements)
 {
-    States now;
-    for (const KeyPlacement &placement : placements)
-        now.insert(placement.key, captureKeyState(mStore, placement.key));
+    States now = capture(keysOf(placements));
     writeSteps(placements, now);
     writeChildPages(placements, now);
     for (const KeyPlacement &placement : placements) {
@@ -226,11 +231,8 @@ void KeyEdits::redo()
 void KeyEdits::applyStep(const QVector<KeyPlacement> &placements)
 {
     apply(placements);
-    QVector<key_id_t> keys;
-    for (const KeyPlacement &placement : placements)
-        keys.append(placement.key);
-    emit sigKeysChanged(keys);
-    emit sigStepApplied(keys);
+    emit sigKeysChanged(keysOf(placements));
+    emit sigStepApplied(keysOf(placements));
 }
 
 void KeyEdits::sendPending()
@@ -261,10 +263,7 @@ void KeyEdits::beginRead()
     if (mReading) // the read is repeated: what was there before it stays the same
         return;
     mReading = true;
-    const QList<key_id_t> keys = mStore.getKeys();
-    mBeforeRead = capture(keys.toVector());
-    for (const key_id_t &key : mPending.keys())
-        mBeforeRead.insert(key, captureKeyState(mStore, key));
+    mBeforeRead = capture(mStore.getKeys().toVector() + mPending.keys());
 }
 
 void KeyEdits::endRead(bool whole, const QVector<key_id_t> &received)
@@ -284,13 +283,11 @@ void KeyEdits::endRead(bool whole, const QVector<key_id_t> &received)
 void KeyEdits::keepUntakenEdits()
 {
     QVector<KeyPlacement> placements;
-    States now;
     for (const key_id_t &key : mPending.keys()) {
-        if (!mBeforeRead.contains(key))
-            continue;
-        placements.append({key, mBeforeRead.value(key)});
-        now.insert(key, captureKeyState(mStore, key));
+        if (mBeforeRead.contains(key))
+            placements.append({key, mBeforeRead.value(key)});
     }
+    const States now = capture(keysOf(placements));
     writeSteps(placements, now);
     for (const KeyPlacement &placement : placements)
         setRecord(placement, now.value(placement.key));
@@ -299,14 +296,11 @@ void KeyEdits::keepUntakenEdits()
 void KeyEdits::removeKeysThatAreGone(const QVector<key_id_t> &received)
 {
     QVector<KeyPlacement> gone;
-    States now;
     for (const key_id_t &key : mStore.getKeys()) {
-        if (received.contains(key) || !mPending.attributes(key).empty())
-            continue;
-        gone.append({key, {}});
-        now.insert(key, captureKeyState(mStore, key));
+        if (!received.contains(key) && mPending.attributes(key).empty())
+            gone.append({key, {}});
     }
-    writeSteps(gone, now);
+    writeSteps(gone, capture(keysOf(gone)));
     for (const KeyPlacement &placement : gone)
         mStore.deleteKeyAttribute(placement.key);
 }
@@ -318,14 +312,13 @@ void KeyEdits::recordRead()
         if (!mBeforeRead.contains(key))
             mBeforeRead.insert(key, {});
     }
-    QVector<key_id_t> keys;
+    const States after = capture(mBeforeRead.keys().toVector());
     for (auto entry = mBeforeRead.cbegin(); entry != mBeforeRead.cend(); ++entry) {
-        const KeyState now = captureKeyState(mStore, entry.key());
-        keys.append(entry.key());
+        const KeyState now = after.value(entry.key());
         if (!sameFunction(*entry, now))
             changes.append({entry.key(), *entry, now});
     }
     if (!changes.isEmpty())
         mHistory.push(new KeyChangeCommand(*this, tr("Read from the panel"), changes)); // owned by the stack
-    emit sigKeysChanged(keys);
+    emit sigKeysChanged(mBeforeRead.keys().toVector());
 }

@@ -24,6 +24,18 @@ QByteArray ownPicture(const QString &path)
     return file.readAll();
 }
 
+QMap<key_id_t, QVector<vorlinmodel::MultiAction>> allSteps()
+{
+    QMap<key_id_t, QVector<vorlinmodel::MultiAction>> steps;
+    QString error;
+    const auto entries = vorlinmodel::multiActionStore().readAll(error);
+    if (!entries)
+        return steps;
+    for (const vorlinmodel::MultiActionEntry &entry : *entries)
+        steps.insert(entry.key, entry.actions);
+    return steps;
+}
+
 /// What a panel holds for a key whose function was just set.
 key_atttribute_t defaultsOf(int fid)
 {
@@ -108,15 +120,28 @@ bool KeyState::hasOwnPicture() const
 
 KeyState captureKeyState(const vorlinmodel::IFunctionManager &store, const key_id_t &key)
 {
-    KeyState state;
-    state.record = store.getKeyAttribute(key);
-    if (state.hasOwnPicture())
-        state.picture = ownPicture(state.record->customImage);
-    if (state.fid() == vorlinmodel::MULTIPLE_ACTIONS_FID)
-        state.steps = vorlinmodel::multiActionStore().readActionsByKeyId(key.lid, key.pageid, key.kid);
-    if (state.fid() == vorlinmodel::CHILDREN_PAGE_FID)
-        state.home = vorlindesk::SystemSettings::homeLayoutEntry(key.kid);
-    return state;
+    return captureKeyStates(store, {key}).value(key);
+}
+
+QMap<key_id_t, KeyState> captureKeyStates(const vorlinmodel::IFunctionManager &store, const QVector<key_id_t> &keys)
+{
+    QMap<key_id_t, KeyState> states;
+    std::optional<QMap<key_id_t, QVector<vorlinmodel::MultiAction>>> steps;
+    for (const key_id_t &key : keys) {
+        KeyState state;
+        state.record = store.getKeyAttribute(key);
+        if (state.hasOwnPicture())
+            state.picture = ownPicture(state.record->customImage);
+        if (state.fid() == vorlinmodel::MULTIPLE_ACTIONS_FID) {
+            if (!steps)
+                steps = allSteps();
+            state.steps = steps->value(key);
+        }
+        if (state.fid() == vorlinmodel::CHILDREN_PAGE_FID)
+            state.home = vorlindesk::SystemSettings::homeLayoutEntry(key.kid);
+        states.insert(key, state);
+    }
+    return states;
 }
 
 bool sameKey(const KeyState &left, const KeyState &right)

@@ -8,6 +8,7 @@
 #include "model/multiaction.h"
 
 #include <QByteArray>
+#include <QMap>
 #include <QStringList>
 #include <QVector>
 #include <optional>
@@ -33,6 +34,10 @@ struct KeyState
 
 /// Reads the key with its picture, steps and child page. Missing files count as empty.
 KeyState captureKeyState(const vorlinmodel::IFunctionManager &store, const vorlinmodel::key_id_t &key);
+
+/// The same for many keys; the file with the steps is read once.
+QMap<vorlinmodel::key_id_t, KeyState> captureKeyStates(const vorlinmodel::IFunctionManager &store,
+                                                       const QVector<vorlinmodel::key_id_t> &keys);
 
 /// Equal for the person and the panel: own pictures count by content, not by where their file lies.
 bool sameKey(const KeyState &left, const KeyState &right);
