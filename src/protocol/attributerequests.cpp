@@ -98,11 +98,23 @@ void writeFunctionId(const Write &write)
 {
     const int fid = write.record ? write.record->mFId : static_cast<int>(write.request.functionId);
     Log(LogLevel::Info, Text::FunctionId, fid);
+    const quint64 failed = write.context.protocol.failedSends();
     sendByte(write, fid);
+    const bool sent = write.context.protocol.failedSends() == failed;
+    write.context.functions.note(write.key, sent ? fid : WrittenFunctions::Unknown);
+}
+
+/// The store has moved on since the panel got its function: the request that brings the new one waits in the queue,
+/// and behind it the one with this content. Until then it would be read as what it is not.
+bool isAheadOfFunction(const Write &write)
+{
+    return write.context.functions.differs(write.key, write.record->mFId);
 }
 
 void writeAppOrUrl(const Write &write)
 {
+    if (isAheadOfFunction(write))
+        return;
     Log(LogLevel::Info, Text::AppOrUrl, qUtf8Printable(write.record->strAppOrUrl));
     send(write, AttributeValue::gbkText(write.record->strAppOrUrl));
 }
@@ -119,11 +131,16 @@ void writeTitleColour(const Write &write)
 void writeClearKey(const Write &write)
 {
     Log(LogLevel::Info, Text::ClearKey, write.key.lid, write.key.pageid, write.key.kid);
+    const quint64 failed = write.context.protocol.failedSends();
     send(write, {});
+    if (write.context.protocol.failedSends() == failed)
+        write.context.functions.forget(write.key);
 }
 
 void writeKeyCombination(const Write &write)
 {
+    if (isAheadOfFunction(write))
+        return;
     const QString &combination = write.record->strAppOrUrl;
     const QByteArray codes = keyCombinationCodes(combination);
     const auto code = [&codes](int index) {
@@ -136,6 +153,8 @@ void writeKeyCombination(const Write &write)
 
 void writeTextOutput(const Write &write)
 {
+    if (isAheadOfFunction(write))
+        return;
     Log(LogLevel::Info, Text::TextOutput, qUtf8Printable(write.record->strAppOrUrl));
     // Travels under the id of addresses; the panel tells them apart by the function of the key.
     build(write, AttributeId::AppOrUrl, AttributeValue::outputText(write.record->strAppOrUrl));

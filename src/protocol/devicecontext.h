@@ -5,7 +5,10 @@
 #include "mdprotocol.h"
 #include "requestqueue.h"
 
+#include "model/keyid.h"
+
 #include <atomic>
+#include <map>
 
 namespace vorlindesk {
 class ITransfer;
@@ -14,6 +17,27 @@ class ITransfer;
 namespace vorlinmodel {
 
 class IFunctionManager;
+
+/// The function ids that were written to the panel, by key; for content, which means something else under each
+/// function.
+class WrittenFunctions
+{
+public:
+    static constexpr int Unknown = -1; ///< writing it failed
+
+    void note(const key_id_t &key, int fid) { mFunctions[key] = fid; }
+    void forget(const key_id_t &key) { mFunctions.erase(key); }
+    void forgetAll() { mFunctions.clear(); }
+    /// True when the panel's key is known to have another function than @p fid.
+    bool differs(const key_id_t &key, int fid) const
+    {
+        const auto written = mFunctions.find(key);
+        return written != mFunctions.end() && written->second != fid;
+    }
+
+private:
+    std::map<key_id_t, int> mFunctions;
+};
 
 /// Borrowed from the protocol thread, on which every operation runs.
 struct DeviceContext
@@ -24,6 +48,7 @@ struct DeviceContext
     IProtocolThread &events; ///< whose signals report what happened
     RequestQueue &queue;
     std::atomic<bool> &upgrading;
+    WrittenFunctions functions;
     bool unreadable; ///< set by an operation that could not read a file, and therefore wrote nothing
 };
 

@@ -68,6 +68,18 @@ Request stateCheck()
     return request;
 }
 
+/// Afterwards the store, the panel or both hold other keys than single edits have put there.
+bool changesAllKeys(const Request &request)
+{
+    constexpr RequestKind kinds[] = {
+        RequestKind::MD_FUNCTION_CODE_READ_CONFIGFILE,  RequestKind::MD_FUNCTION_CODE_CONFIGFILE,
+        RequestKind::MD_FUNCTION_CODE_DEL_CONFIGFILE,   RequestKind::MD_FUNCTION_CODE_CUSTOMLAYOUT_SET,
+        RequestKind::MD_FUNCTION_CODE_CUSTOMLAYOUT_DEL, RequestKind::MD_FUNCTION_CODE_UPGRADE};
+    return std::any_of(std::begin(kinds), std::end(kinds), [&request](RequestKind kind) {
+        return static_cast<quint32>(kind) == request.functionCode;
+    });
+}
+
 RequestOutcome outcome(bool sent, bool panelWasThere, bool unreadable)
 {
     if (unreadable)
@@ -85,7 +97,7 @@ ProtocolWorker::ProtocolWorker(IProtocolThread &thread, const IFunctionManager &
     , mShared(shared)
     , mpTransfer(std::make_unique<HIDTransfer>())
     , mProtocol(*mpTransfer, callbacks())
-    , mContext{mProtocol, *mpTransfer, store, thread, shared.queue, shared.upgrading, false}
+    , mContext{mProtocol, *mpTransfer, store, thread, shared.queue, shared.upgrading, {}, false}
 {
     QObject::connect(
         mpTransfer.get(), &vorlindesk::ITransfer::connectState, &thread,
@@ -150,6 +162,8 @@ void ProtocolWorker::processLogged(const Request &request)
     const bool wasOpen = mpTransfer->isOpen();
     const int openCount = mpTransfer->openCount();
     mContext.unreadable = false;
+    if (changesAllKeys(request))
+        mContext.functions.forgetAll();
     process(request);
     const bool sent = mProtocol.failedSends() == failedSends;
     const bool panelWasThere = wasOpen || mpTransfer->openCount() != openCount;
