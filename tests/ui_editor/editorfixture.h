@@ -136,9 +136,9 @@ public:
 
     ~EditorFixture() override
     {
-        context.reset();
         if (mpThread)
-            mpThread->stop();
+            mpThread->stop(); // it calls into the editor
+        context.reset();
         mpThread.reset();
         QDir::setCurrent(mBefore);
     }
@@ -153,10 +153,14 @@ public:
     /// As if the program ended and started again on the same files.
     void restart()
     {
+        if (mpThread)
+            mpThread->stop();
         context.reset();
         for (const vorlinmodel::key_id_t &key : store.getKeys())
             store.deleteKeyAttribute(key);
         editor();
+        if (mpThread)
+            mpThread->start();
     }
 
     vorlindesk::LanguageManager *languageManager() override { return &language; }

@@ -4,7 +4,9 @@
 #include "keyedits.h"
 #include "keyfaces.h"
 
+#include <QVector>
 #include <array>
+#include <functional>
 
 namespace vorlindesk {
 class IFrameworkContext;
@@ -32,4 +34,9 @@ struct EditorContext
     KeyFaces faces;
     bool childrenForm = false; ///< the page in view is a child page
     std::array<ChildPageEntry, 16> childPages{}; ///< by key id, 1 to 15
+
+    /// Whoever deletes keys at the person's wish (menu, Delete, cut) calls this when it is set, else @p remove itself:
+    /// the page asks first what may be lost with them (the keys of child pages), and then runs @p remove inside
+    /// one step of the history, or not at all.
+    std::function<void(const QVector<vorlinmodel::key_id_t> &keys, const std::function<void()> &remove)> deleteKeys;
 };

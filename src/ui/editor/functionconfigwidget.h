@@ -1,13 +1,32 @@
 /// The editor page: function list, grids, page navigation, attribute editor, multi-action editor.
 #pragma once
 
+#include "keyboardframe.h"
+#include "layoutchangecommand.h"
 #include "model/keyid.h"
 
 #include <QFrame>
+#include <QMessageBox>
+#include <vector>
 
+class AttributeEditor;
+class EditToolBar;
+class FunctionList;
+class KeyboardWidget;
+class KeyCommands;
+class LayoutBar;
+class MultiActionWidget;
+class NoticeBar;
+class PageNavigation;
 class QAbstractButton;
+class QLabel;
 struct EditorContext;
 
+namespace MessageBox {
+struct Question;
+}
+
+/// @p context outlives it. Grids are built when their page is first shown.
 class FunctionConfigWidget : public QFrame
 {
     Q_OBJECT
@@ -15,11 +34,17 @@ public:
     FunctionConfigWidget(EditorContext &context, QWidget *parent);
     ~FunctionConfigWidget() override;
 
-    bool setup();
+    bool
+    setup(); ///< @return false when a part cannot be built, which is logged; nothing else may be called then
+    /// Shows a page (1 to 16) of a layout that there is; another is refused, which is logged. @p send: the
+    /// person went there, so that the panel is told (one request of kind 7, also when that page is in view
+    /// already); false when the panel is there by itself. While the multi-action editor is open the page
+    /// waits behind it.
     void setKeyboardCurLayoutAndPage(int layoutId, int pageId, bool send);
     /// The panel was read and shows this page.
     void showDevicePage(int layoutId, int pageId);
-    void returnToMain(); ///< from a child page, as the function "return to main" does
+    void
+    returnToMain(); ///< from a child page, as the function "return to main" does; asks about unsaved steps
     int curLayoutId() const;
     int curPageId() const;
     void refreshKeys();    ///< every built grid: the store was filled anew
@@ -42,4 +67,60 @@ public slots:
     void onKeyBtnClicked(const vorlinmodel::key_id_t &key_id_, int fid_, bool isDouble);
     void onMultiActionWidgetHide(const vorlinmodel::key_id_t &key_id_, int mainFid);
     void onMsgBtnClicked(QAbstractButton *button);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool setupFuncListFrame();
+    bool setupBtnLayoutFrame();
+    bool setupAttrFrame();
+    bool setupMultipleActionWidget();
+    void arrange();
+    void connectTools();
+    void connectPageKeys();
+    void watchFocus();
+    void addFrame(int layoutId);
+    void removeFrame(int layoutId);
+    void dropGrids(KeyboardFrame &frame);
+    QString layoutName(const KeyboardFrame &frame) const;
+
+    KeyboardFrame *frameOf(int layoutId);
+    KeyboardFrame *currentFrame(); ///< the first with the flag; null while the multi-action editor is open
+    KeyboardWidget *gridOf(KeyboardFrame &frame, int pageId);
+    void makeCurrent(const KeyboardFrame *pFrameData); ///< null: none
+    void showPage(KeyboardFrame &frame, int pageId, bool send);
+    void turnPage(int step);
+    void selectOnPanel(int layoutId, int pageId);
+    bool showView(const PageInView &view);
+
+    void openMultiActions(const vorlinmodel::key_id_t &key);
+    void openChildPage(int keyId);
+    void setChildrenForm(bool on);
+    void refreshFunctionList();
+    void showStep(const QVector<vorlinmodel::key_id_t> &keys);
+    void activateFunction(int fid);
+    QMessageBox::StandardButton ask(const MessageBox::Question &question);
+    void showHint(bool isBright);
+
+    EditorContext &mContext;
+    int mCurLayoutId = 1;
+    int mCurPageId = 1;
+    const int mMaxPage = vorlinmodel::MaxPage;
+    int mChildPageKeyId = 1; ///< of the child-page key last opened
+    bool isFuncListForMultiAction = false;
+    std::vector<KeyboardFrame> mKeyboardList; ///< in the order of their buttons; the standard layout first
+    QMessageBox::StandardButton mAnswer = QMessageBox::Cancel;
+
+    FunctionList *mpFunctionList = nullptr;
+    QLabel *mpHint = nullptr;
+    QWidget *mpKeysView = nullptr; ///< everything of the main view above the attribute editor
+    LayoutBar *mpLayoutBar = nullptr;
+    EditToolBar *mpTools = nullptr;
+    NoticeBar *mpNotice = nullptr;
+    GridArea *mpGridArea = nullptr;
+    PageNavigation *mpNavigation = nullptr;
+    KeyCommands *mpCommands = nullptr;
+    AttributeEditor *mpAttributes = nullptr;
+    MultiActionWidget *mpMultiActions = nullptr;
 };

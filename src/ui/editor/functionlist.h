@@ -4,8 +4,13 @@
 #include <QFrame>
 #include <QVector>
 
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QListWidgetItem;
 struct EditorContext;
 
+/// A filter field above the functions in their groups.
 class FunctionList : public QFrame
 {
     Q_OBJECT
@@ -21,17 +26,33 @@ public:
     void setMode(Mode mode);
     void retranslate();
 
-    static QVector<int> functions(Mode mode); ///< fids in the order of the list
+    static QVector<int>
+    functions(Mode mode); ///< fids in the order of the list: the groups one after the other
 
 signals:
     void functionActivated(int fid); ///< double click, or Enter
+    void functionClicked(int fid);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void fill();
+    void filter();
+    void activate(const QListWidgetItem *item);
+
+    EditorContext &mContext;
+    Mode mMode = Mode::Keys;
+    QLineEdit *mpFilter;
+    QListWidget *mpList;
+    QLabel *mpNothingFound;
 };
 
 /// Name of a function in the current language; of the video function too, which is not in the catalogue.
 QString functionName(const EditorContext &context, int fid);
-/// Path of the icon that stands for a function in lists, and becomes the picture of a key whose function has no icon in
-/// the catalogue (1, 2, 3, 17).
+/// Path of the icon that stands for a function in lists, and becomes the picture of a key whose function has
+/// no icon in the catalogue (1, 2, 3, 17).
 QString functionIcon(int fid);
-/// True for the functions that the editor offers beside the catalogue (1, 2, 3, 17): a key that gets one shows
-/// functionIcon() as its own picture.
+/// True for the functions that the editor offers beside the catalogue (1, 2, 3, 17): a key that gets one
+/// shows functionIcon() as its own picture.
 bool isOfferedByEditor(int fid);

@@ -13,7 +13,8 @@ struct PositionRow
 
 constexpr PositionRow Positions[] = {
     {2, "1234567890-+"}, {16, "QWERTYUIOP[]"}, {30, "ASDFGHJKL;'~"}, {43, "\\ZXCVBNM,./"}};
-constexpr quint32 AdditionalKey = 86; // beside the left Shift of European keyboards; the table has no name for it
+constexpr quint32 AdditionalKey =
+    86; // beside the left Shift of European keyboards; the table has no name for it
 
 // What a US keyboard gives with Shift or without a name of its own, and the key that it is on.
 constexpr char Shifted[] = "!@#$%^&*()_={}|:\"`<>?";
@@ -28,15 +29,33 @@ struct NamedKey
 
 // The table calls the backspace key "Delete".
 constexpr NamedKey Named[] = {
-    {Qt::Key_Return, "Enter"},          {Qt::Key_Enter, "Enter"},       {Qt::Key_Space, "Space"},
-    {Qt::Key_CapsLock, "Caps Lock"},    {Qt::Key_Backspace, "Delete"},  {Qt::Key_Delete, "Delete Forward"},
-    {Qt::Key_Tab, "Tab"},               {Qt::Key_Backtab, "Tab"},       {Qt::Key_Escape, "ESC"},
-    {Qt::Key_Home, "Home"},             {Qt::Key_End, "END"},           {Qt::Key_Print, "PrintScreen"},
-    {Qt::Key_SysReq, "PrintScreen"},    {Qt::Key_Pause, "Pause"},       {Qt::Key_Cancel, "Pause"},
-    {Qt::Key_ScrollLock, "Scroll Lock"}, {Qt::Key_Insert, "Insert"},    {Qt::Key_PageUp, "PageUp"},
-    {Qt::Key_PageDown, "PageDown"},     {Qt::Key_Right, "RightArrow"},  {Qt::Key_Left, "LeftArrow"},
-    {Qt::Key_Down, "DownArrow"},        {Qt::Key_Up, "UpArrow"},        {Qt::Key_NumLock, "Num Lock"},
-    {Qt::Key_Super_L, "Windows"},       {Qt::Key_Super_R, "Windows"},   {Qt::Key_AltGr, "Alt gr"},
+    {Qt::Key_Return, "Enter"},
+    {Qt::Key_Enter, "Enter"},
+    {Qt::Key_Space, "Space"},
+    {Qt::Key_CapsLock, "Caps Lock"},
+    {Qt::Key_Backspace, "Delete"},
+    {Qt::Key_Delete, "Delete Forward"},
+    {Qt::Key_Tab, "Tab"},
+    {Qt::Key_Backtab, "Tab"},
+    {Qt::Key_Escape, "ESC"},
+    {Qt::Key_Home, "Home"},
+    {Qt::Key_End, "END"},
+    {Qt::Key_Print, "PrintScreen"},
+    {Qt::Key_SysReq, "PrintScreen"},
+    {Qt::Key_Pause, "Pause"},
+    {Qt::Key_Cancel, "Pause"},
+    {Qt::Key_ScrollLock, "Scroll Lock"},
+    {Qt::Key_Insert, "Insert"},
+    {Qt::Key_PageUp, "PageUp"},
+    {Qt::Key_PageDown, "PageDown"},
+    {Qt::Key_Right, "RightArrow"},
+    {Qt::Key_Left, "LeftArrow"},
+    {Qt::Key_Down, "DownArrow"},
+    {Qt::Key_Up, "UpArrow"},
+    {Qt::Key_NumLock, "Num Lock"},
+    {Qt::Key_Super_L, "Windows"},
+    {Qt::Key_Super_R, "Windows"},
+    {Qt::Key_AltGr, "Alt gr"},
 };
 
 namespace XKeysym {
@@ -151,6 +170,12 @@ void KeyCaptureButton::retranslate()
 {
     setText(isChecked() ? tr("Press now") : tr("Press keys"));
     setToolTip(tr("Takes the keys that you press together, up to four"));
+}
+
+void KeyCaptureButton::cancel()
+{
+    mNames.clear();
+    setChecked(false);
 }
 
 bool KeyCaptureButton::event(QEvent *event)

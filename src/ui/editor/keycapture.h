@@ -22,14 +22,15 @@ QString nameOf(const Pressed &pressed);
 
 } // namespace KeyCapture
 
-/// While it is checked, every key that is pressed is taken instead of doing what it does, shortcuts, Tab and Esc
-/// included. Ends when all keys are released.
+/// While it is checked, every key that is pressed is taken instead of doing what it does, shortcuts, Tab and
+/// Esc included. Ends when all keys are released.
 class KeyCaptureButton : public QPushButton
 {
     Q_OBJECT
 public:
     explicit KeyCaptureButton(QWidget *parent);
     void retranslate();
+    void cancel(); ///< forgets what was pressed
 
 signals:
     void sigPressed(const QStringList &names);  ///< so far, in the order pressed, at most four

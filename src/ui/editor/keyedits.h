@@ -40,7 +40,8 @@ public:
     static constexpr int Rest = 300;      ///< ms without typing or sliding, after which a value is sent
     static constexpr int HistoryLimit = 500;
 
-    /// Loads what the last run has saved. @p context outlives this object.
+    /// Loads what the last run has saved. @p context outlives this object, while its protocol thread has to end
+    /// before it.
     explicit KeyEdits(vorlindesk::IFrameworkContext &context, QObject *parent = nullptr);
     ~KeyEdits() override; ///< sends nothing more; what is not saved is saved
 

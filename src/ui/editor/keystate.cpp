@@ -151,7 +151,8 @@ bool sameKey(const KeyState &left, const KeyState &right)
     key_atttribute_t a = *left.record;
     const key_atttribute_t &b = *right.record;
     a.customImage = b.customImage;
-    return samePicture(left, right) && a == b && left.steps == right.steps &&
+    a.titleColour = b.titleColour;
+    return samePicture(left, right) && a == b && left.record->titleColour.rgb() == b.titleColour.rgb() && left.steps == right.steps &&
            left.home.layoutId == right.home.layoutId && left.home.pageId == right.home.pageId &&
            left.home.sum == right.home.sum;
 }
@@ -163,6 +164,7 @@ bool sameFunction(const KeyState &left, const KeyState &right)
         record.nDisplayImageType = 0;
         record.defaultImage.clear();
         record.customImage.clear();
+        record.titleColour = QColor(record.titleColour.rgb()); // not in another colour model
         if (record.mFId == vorlinmodel::KEY_COMBINATION_FID)
             record.strAppOrUrl = combinationKeys(record.strAppOrUrl).join(QLatin1Char('#'));
         return record;

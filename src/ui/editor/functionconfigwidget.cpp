@@ -1,0 +1,259 @@
+#include "functionconfigwidget.h"
+
+#include "attributeeditor.h"
+#include "base/iframeworkcontext.h"
+#include "base/language.h"
+#include "base/log.h"
+#include "editorcontext.h"
+#include "editorlogtext.h"
+#include "edittoolbar.h"
+#include "functionlist.h"
+#include "keyboardwidget.h"
+#include "keycommands.h"
+#include "layoutbar.h"
+#include "model/customlayouts.h"
+#include "multiactionwidget.h"
+#include "noticebar.h"
+#include "pagenavigation.h"
+#include "ui_common/style.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSplitter>
+#include <QVBoxLayout>
+#include <algorithm>
+
+using vorlindesk::Log;
+using vorlindesk::LogLevel;
+using vorlinmodel::key_id_t;
+
+namespace {
+
+constexpr int StandardLayout = 1;
+constexpr int HintTextId = 67;
+constexpr int ListMinimum = 190; // pixels
+constexpr int ListMaximum = 280;
+constexpr int AttributesHeight = 230;
+constexpr int KeysHeight = 326;
+
+constexpr char PageStyle[] = "#functionConfig {background-color: rgb(51, 51, 51);}"
+                             "#functionConfig QSplitter::handle {background-color: rgb(62, 62, 62);}"
+                             "QToolTip {background-color: rgb(36, 36, 36);color: white;"
+                             "border: 1px solid rgb(108, 108, 108);}";
+
+} // namespace
+
+FunctionConfigWidget::FunctionConfigWidget(EditorContext &context, QWidget *parent)
+    : QFrame(parent)
+    , mContext(context)
+{
+    setObjectName(QStringLiteral("functionConfig"));
+    setStyleSheet(QString::fromLatin1(PageStyle) + QString::fromLatin1(Style::MessageBox));
+}
+
+/// The children, which go later than our members, may still end an edit or lose the focus.
+FunctionConfigWidget::~FunctionConfigWidget()
+{
+    disconnect(qApp, nullptr, this, nullptr);
+    disconnect(&mContext.edits, nullptr, this, nullptr);
+}
+
+bool FunctionConfigWidget::setup()
+{
+    struct Step
+    {
+        bool (FunctionConfigWidget::*setup)();
+        const char *start;
+        const char *failure;
+    };
+    namespace Text = EditorLogText;
+    constexpr Step steps[] = {
+        {&FunctionConfigWidget::setupFuncListFrame, Text::SetupFuncList, Text::SetupFuncListError},
+        {&FunctionConfigWidget::setupBtnLayoutFrame, Text::SetupLayouts, Text::SetupLayoutsError},
+        {&FunctionConfigWidget::setupAttrFrame, Text::SetupAttributes, Text::SetupAttributesError},
+        {&FunctionConfigWidget::setupMultipleActionWidget, Text::SetupMultiActions,
+         Text::SetupMultiActionsError},
+    };
+    for (const Step &step : steps) {
+        Log(LogLevel::Info, "%s", step.start);
+        if (!(this->*step.setup)()) {
+            Log(LogLevel::Error, "%s", step.failure);
+            return false;
+        }
+    }
+    arrange();
+    showPage(mKeyboardList.front(), mCurPageId, false);
+    retranslate();
+    return true;
+}
+
+bool FunctionConfigWidget::setupFuncListFrame()
+{
+    mpFunctionList = new FunctionList(mContext, this);
+    mpFunctionList->installEventFilter(this);
+    mpHint = new QLabel(this);
+    mpHint->setObjectName(QStringLiteral("hint"));
+    mpHint->setTextFormat(Qt::PlainText);
+    mpHint->setWordWrap(true);
+    showHint(false);
+    connect(mpFunctionList, &FunctionList::functionActivated, this, &FunctionConfigWidget::activateFunction);
+    connect(mpFunctionList, &FunctionList::functionClicked, this,
+            &FunctionConfigWidget::onFunctionListButtonMouseClicked);
+    return true;
+}
+
+bool FunctionConfigWidget::setupBtnLayoutFrame()
+{
+    const vorlindesk::LanguageManager &language = *mContext.framework.languageManager();
+    mpNotice = new NoticeBar(this);
+    mpKeysView = new QWidget(this);
+    mpLayoutBar = new LayoutBar(mpKeysView);
+    mpTools = new EditToolBar(mContext.edits.history(), language, mpKeysView);
+    mpGridArea = new GridArea(mpKeysView);
+    mpNavigation = new PageNavigation(language, mpKeysView);
+    mpCommands = new KeyCommands(
+        mContext, [this](const MessageBox::Question &question) { return ask(question); }, this);
+    connectTools();
+    connectPageKeys();
+    addFrame(StandardLayout);
+    for (const int layoutId : vorlinmodel::customLayoutIds())
+        addFrame(layoutId);
+    makeCurrent(&mKeyboardList.front());
+    gridOf(mKeyboardList.front(), mCurPageId);
+    return true;
+}
+
+bool FunctionConfigWidget::setupAttrFrame()
+{
+    mpAttributes = new AttributeEditor(mContext, this);
+    return mpAttributes->setup();
+}
+
+bool FunctionConfigWidget::setupMultipleActionWidget()
+{
+    mpMultiActions = new MultiActionWidget(mContext, this);
+    mpMultiActions->hide();
+    connect(mpMultiActions, &MultiActionWidget::sigBtnReturnClicked, this,
+            &FunctionConfigWidget::onMultiActionWidgetHide);
+    connect(mpMultiActions, &MultiActionWidget::actionItemClicked, mpAttributes,
+            &AttributeEditor::onMultiActionItemClicked);
+    return mpMultiActions->setup();
+}
+
+void FunctionConfigWidget::arrange()
+{
+    auto *top = new QHBoxLayout;
+    top->setSpacing(8);
+    top->addWidget(mpLayoutBar, 1);
+    top->addWidget(mpTools);
+    auto *keys = new QVBoxLayout(mpKeysView);
+    keys->setContentsMargins(0, 0, 0, 4);
+    keys->setSpacing(6);
+    keys->addLayout(top);
+    keys->addWidget(mpGridArea, 1);
+    keys->addWidget(mpNavigation);
+
+    auto *upper = new QWidget(this);
+    auto *views = new QVBoxLayout(upper);
+    views->setContentsMargins(0, 0, 0, 0);
+    views->setSpacing(6);
+    views->addWidget(mpNotice);
+    views->addWidget(mpKeysView, 1);
+    views->addWidget(mpMultiActions, 1);
+    auto *splitter = new QSplitter(Qt::Vertical, this);
+    splitter->setObjectName(QStringLiteral("splitter"));
+    splitter->setChildrenCollapsible(false);
+    splitter->addWidget(upper);
+    splitter->addWidget(mpAttributes);
+    splitter->setStretchFactor(0, 3);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({KeysHeight, AttributesHeight}); // of a window of 1024 x 640
+
+    auto *list = new QWidget(this);
+    list->setMinimumWidth(ListMinimum);
+    list->setMaximumWidth(ListMaximum);
+    auto *right = new QVBoxLayout(list);
+    right->setContentsMargins(0, 0, 0, 0);
+    right->setSpacing(6);
+    right->addWidget(mpFunctionList, 1);
+    right->addWidget(mpHint);
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(8, 8, 8, 8);
+    layout->setSpacing(8);
+    layout->addWidget(splitter, 4);
+    layout->addWidget(list, 1);
+}
+
+void FunctionConfigWidget::connectTools()
+{
+    using Command = void (KeyCommands::*)(KeyboardWidget &);
+    const auto onGrid = [this](EditToolBar::Tool tool, Command command) {
+        QAction *action = mpTools->action(tool);
+        mpKeysView->addAction(action); // elsewhere the keys belong to the fields
+        connect(action, &QAction::triggered, this, [this, command] {
+            if (KeyboardWidget *grid = mpGridArea->grid())
+                (mpCommands->*command)(*grid);
+        });
+    };
+    onGrid(EditToolBar::Cut, &KeyCommands::cut);
+    onGrid(EditToolBar::Copy, &KeyCommands::copy);
+    onGrid(EditToolBar::Paste, &KeyCommands::paste);
+    onGrid(EditToolBar::Delete, &KeyCommands::remove);
+    onGrid(EditToolBar::EveryPage, &KeyCommands::putOnEveryPage);
+    for (const auto tool : {EditToolBar::Undo, EditToolBar::Redo})
+        addAction(mpTools->action(tool));
+    connect(mpTools->action(EditToolBar::Undo), &QAction::triggered, &mContext.edits, &KeyEdits::undo);
+    connect(mpTools->action(EditToolBar::Redo), &QAction::triggered, &mContext.edits, &KeyEdits::redo);
+    connect(&mContext.edits, &KeyEdits::sigStepApplied, this, &FunctionConfigWidget::showStep);
+    connect(&mContext.edits, &KeyEdits::sigProblem, mpNotice, &NoticeBar::notify);
+    connect(mpCommands, &KeyCommands::sigNotice, mpNotice, &NoticeBar::notify);
+}
+
+void FunctionConfigWidget::connectPageKeys()
+{
+    connect(mpNavigation->prevPageButton(), &QPushButton::clicked, this,
+            &FunctionConfigWidget::onKeyboardPrevPageButtonClicked);
+    connect(mpNavigation->nextPageButton(), &QPushButton::clicked, this,
+            &FunctionConfigWidget::onKeyboardNextPageButtonClicked);
+    connect(mpNavigation, &PageNavigation::sigPageChosen, this,
+            &FunctionConfigWidget::onKeyboardSelPageButtonClicked);
+    const auto addKey = [this](const QString &keys, void (FunctionConfigWidget::*turn)()) {
+        auto *action = new QAction(this);
+        action->setShortcut(QKeySequence(keys));
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        connect(action, &QAction::triggered, this, turn);
+        addAction(action);
+    };
+    addKey(QStringLiteral("Ctrl+PgUp"), &FunctionConfigWidget::onKeyboardPrevPageButtonClicked);
+    addKey(QStringLiteral("Ctrl+PgDown"), &FunctionConfigWidget::onKeyboardNextPageButtonClicked);
+    watchFocus();
+}
+
+void FunctionConfigWidget::refreshKeys()
+{
+    for (const KeyboardFrame &frame : mKeyboardList) {
+        for (KeyboardWidget *grid : frame.grids) {
+            if (grid)
+                grid->updateAllIcons();
+        }
+    }
+    mpAttributes->refresh();
+}
+
+void FunctionConfigWidget::retranslate()
+{
+    mpHint->setText(mContext.framework.languageManager()->Text(HintTextId));
+    for (const KeyboardFrame &frame : mKeyboardList)
+        mpLayoutBar->rename(frame.pLayoutButton, layoutName(frame));
+    mpLayoutBar->retranslate();
+    mpTools->retranslate();
+    mpNotice->retranslate();
+    mpNavigation->retranslate();
+    mpFunctionList->retranslate();
+    mpAttributes->retranslate();
+    mpMultiActions->retranslate();
+    refreshKeys(); // names and tool tips of the cells
+}

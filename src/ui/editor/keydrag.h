@@ -1,0 +1,36 @@
+/// What may be dropped on a key, and what happens to keys that are dragged.
+#pragma once
+
+#include "model/keyid.h"
+
+#include <QString>
+#include <optional>
+
+class KeyEdits;
+class QDropEvent;
+class QMimeData;
+struct EditorContext;
+
+namespace KeyDrag {
+
+/// @return the function id that is dragged; nothing when the data has none, or one that a key cannot have.
+std::optional<int> functionOf(const QMimeData &data);
+
+/// Fills @p data for a drag of @p key.
+void setKey(QMimeData &data, const vorlinmodel::key_id_t &key);
+/// @return the key that is dragged; nothing when the data has none, or numbers that no key has.
+std::optional<vorlinmodel::key_id_t> keyOf(const QMimeData &data);
+
+/// @return the path of the one picture file that is dragged; empty when it is none, several, or cannot be
+/// read.
+QString pictureFileOf(const QMimeData &data, EditorContext &context);
+
+/// Whether the drag copies: with Ctrl, or when its source offers nothing else.
+bool isCopy(const QDropEvent &event);
+
+/// Moves @p source onto @p target, or swaps the two when both have a function; or copies it. One step.
+/// Nothing happens when both are the same key, or @p source has no function.
+void dropKey(KeyEdits &edits, const vorlinmodel::key_id_t &source, const vorlinmodel::key_id_t &target,
+             bool copy);
+
+} // namespace KeyDrag

@@ -1,0 +1,31 @@
+/// Gives a key its own picture or video, as one step each.
+#pragma once
+
+#include "model/keyattribute.h"
+#include "model/keyid.h"
+
+#include <QString>
+
+struct EditorContext;
+
+/// Each returns what went wrong, for the person; empty when it is done. Nothing is changed then, as when the
+/// key has no function.
+namespace PictureEdits {
+
+QString setPicture(EditorContext &context, const vorlinmodel::key_id_t &key, const QString &path);
+
+/// For a key with the video function. @p picture is shown on the screen until the first frame is known; may
+/// be empty.
+QString setVideo(EditorContext &context, const vorlinmodel::key_id_t &key, const QString &path,
+                 const QString &picture = {});
+
+/// False when the key shows the icon of its function already, or its function has none.
+bool canReset(const vorlinmodel::key_atttribute_t &record);
+void resetPicture(EditorContext &context, const vorlinmodel::key_id_t &key);
+
+/// Whether the name is that of a video that keys can play.
+bool isVideoName(const QString &path);
+QString videoPattern();   ///< "*.mp4 *.mov ...", for a file dialog
+QString picturePattern(); ///< of all formats that can be read
+
+} // namespace PictureEdits

@@ -1,0 +1,49 @@
+#include "textlimit.h"
+
+#include "wire/attributevalue.h"
+#include "wire/textcodec.h"
+
+#include <QStringList>
+#include <QVector>
+
+namespace TextLimit {
+
+static_assert(MaxBytes == AttributeValue::MaxTextBytes);
+
+namespace {
+
+constexpr int MostNamed = 8;
+
+bool hasShape(uint character)
+{
+    return QChar::isPrint(character) && !QChar::isMark(character) && !QChar::isSpace(character);
+}
+
+QString nameOf(uint character)
+{
+    if (hasShape(character))
+        return QString::fromUcs4(&character, 1);
+    return QStringLiteral("U+%1").arg(character, 4, 16, QLatin1Char('0')).toUpper();
+}
+
+} // namespace
+
+Check check(const QString &text, Encoding encoding)
+{
+    if (encoding == Encoding::TextOutput)
+        return {TextCodec::toOutput(text).size(), {}};
+    return {TextCodec::toGbk(text).size(), TextCodec::charactersNotInGbk(text)};
+}
+
+QString nameCharacters(const QString &lacking)
+{
+    const QVector<uint> characters = lacking.toUcs4();
+    QStringList names;
+    for (const uint character : characters.mid(0, MostNamed))
+        names.append(nameOf(character));
+    if (characters.size() > MostNamed)
+        names.append(QStringLiteral("…"));
+    return names.join(QLatin1Char(' '));
+}
+
+} // namespace TextLimit

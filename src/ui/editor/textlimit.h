@@ -1,0 +1,29 @@
+/// What of a text the panel cannot carry.
+#pragma once
+
+#include <QString>
+
+namespace TextLimit {
+
+constexpr int MaxBytes = 128; ///< of a title or content: the area that the panel's record of a key has for it
+
+enum class Encoding {
+    Gbk,        ///< titles, paths and addresses
+    TextOutput, ///< two bytes for each UTF-16 unit; every character can be carried
+};
+
+struct Check
+{
+    int bytes = 0;   ///< in the encoding
+    QString lacking; ///< characters that the encoding has not, each once, in order
+
+    bool fits() const { return bytes <= MaxBytes && lacking.isEmpty(); }
+};
+
+Check check(const QString &text, Encoding encoding);
+
+/// The characters of @p lacking for a sentence: blank-separated, those without a shape of their own by number
+/// ("U+200D"); of more than eight only the first.
+QString nameCharacters(const QString &lacking);
+
+} // namespace TextLimit
