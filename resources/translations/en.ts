@@ -2,42 +2,744 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="en_US">
 <context>
-    <name>MainFrame</name>
+    <name>AttributeEditor</name>
     <message>
-        <source>Looking for the panel...</source>
-        <translation>Looking for the panel...</translation>
+        <source>Key %1 keeps its last title that could be sent.</source>
+        <translation>Key %1 keeps its last title that could be sent.</translation>
     </message>
     <message>
-        <source>Reading the configuration...</source>
-        <translation>Reading the configuration...</translation>
+        <source>Key %1 keeps its last content that could be sent.</source>
+        <translation>Key %1 keeps its last content that could be sent.</translation>
     </message>
     <message>
-        <source>Reading the configuration... %1 of %2 keys</source>
-        <translation>Reading the configuration... %1 of %2 keys</translation>
+        <source>Step %1: %2</source>
+        <translation>Step %1: %2</translation>
     </message>
     <message>
-        <source>Connected. The configuration was not read to its end.</source>
-        <translation>Connected. The configuration was not read to its end.</translation>
+        <source>Key %1: %2</source>
+        <translation>Key %1: %2</translation>
     </message>
     <message>
-        <source>Connected</source>
-        <translation>Connected</translation>
+        <source>Key %1</source>
+        <translation>Key %1</translation>
+    </message>
+</context>
+<context>
+    <name>ColourButton</name>
+    <message>
+        <source>White</source>
+        <translation>White</translation>
     </message>
     <message>
-        <source>Custom layout: %1</source>
-        <translation>Custom layout: %1</translation>
+        <source>Grey</source>
+        <translation>Grey</translation>
     </message>
     <message>
-        <source>Brightness: %1</source>
-        <translation>Brightness: %1</translation>
+        <source>Black</source>
+        <translation>Black</translation>
     </message>
     <message>
-        <source>Home layout: %1</source>
-        <translation>Home layout: %1</translation>
+        <source>Red</source>
+        <translation>Red</translation>
     </message>
     <message>
-        <source>System type: %1</source>
-        <translation>System type: %1</translation>
+        <source>Orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Yellow</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>Turquoise</source>
+        <translation>Turquoise</translation>
+    </message>
+    <message>
+        <source>Light blue</source>
+        <translation>Light blue</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <translation>Violet</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <translation>Pink</translation>
+    </message>
+    <message>
+        <source>Title colour</source>
+        <translation>Title colour</translation>
+    </message>
+    <message>
+        <source>More colours...</source>
+        <translation>More colours...</translation>
+    </message>
+</context>
+<context>
+    <name>CombinationField</name>
+    <message>
+        <source>Key %1 of the combination</source>
+        <translation>Key %1 of the combination</translation>
+    </message>
+</context>
+<context>
+    <name>ContentEditor</name>
+    <message>
+        <source>Choose the file that the key opens</source>
+        <translation>Choose the file that the key opens</translation>
+    </message>
+    <message>
+        <source>Web address:</source>
+        <translation>Web address:</translation>
+    </message>
+    <message>
+        <source>None chosen</source>
+        <translation>None chosen</translation>
+    </message>
+    <message>
+        <source>Video of the key</source>
+        <translation>Video of the key</translation>
+    </message>
+    <message>
+        <source>Choose the video that the key plays</source>
+        <translation>Choose the video that the key plays</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Path</translation>
+    </message>
+    <message>
+        <source>Web address</source>
+        <translation>Web address</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Key combination</source>
+        <translation>Key combination</translation>
+    </message>
+    <message>
+        <source>Opens the home page of the browser on this computer.</source>
+        <translation>Opens the home page of the browser on this computer.</translation>
+    </message>
+    <message>
+        <source>Runs several actions one after the other. Double click the key, or press Enter on it, to edit them.</source>
+        <translation>Runs several actions one after the other. Double click the key, or press Enter on it, to edit them.</translation>
+    </message>
+    <message>
+        <source>Shows a page of its own with further keys. Double click the key, or press Enter on it, to open that page.</source>
+        <translation>Shows a page of its own with further keys. Double click the key, or press Enter on it, to open that page.</translation>
+    </message>
+    <message>
+        <source>Leads from a child page back to the main page.</source>
+        <translation>Leads from a child page back to the main page.</translation>
+    </message>
+    <message>
+        <source>The panel does this by itself. There is nothing more to set.</source>
+        <translation>The panel does this by itself. There is nothing more to set.</translation>
+    </message>
+    <message>
+        <source>This program does not know the function %1 of the key.</source>
+        <translation>This program does not know the function %1 of the key.</translation>
+    </message>
+</context>
+<context>
+    <name>Conversion</name>
+    <message>
+        <source>&quot;%1&quot; cannot be opened.</source>
+        <translation>&quot;%1&quot; cannot be opened.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a picture that can be read.</source>
+        <translation>&quot;%1&quot; is not a picture that can be read.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a video that can be read.</source>
+        <translation>&quot;%1&quot; is not a video that can be read.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large: a picture may have up to %2 x %2 pixels.</source>
+        <translation>&quot;%1&quot; is too large: a picture may have up to %2 x %2 pixels.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged or not complete.</source>
+        <translation>&quot;%1&quot; is damaged or not complete.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be converted to a size without pixels.</source>
+        <translation>&quot;%1&quot; cannot be converted to a size without pixels.</translation>
+    </message>
+    <message>
+        <source>The program that converts pictures and videos is missing or cannot be started: %1</source>
+        <translation>The program that converts pictures and videos is missing or cannot be started: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be converted.</source>
+        <translation>&quot;%1&quot; could not be converted.</translation>
+    </message>
+    <message>
+        <source>The conversion of &quot;%1&quot; took too long and was given up.</source>
+        <translation>The conversion of &quot;%1&quot; took too long and was given up.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be converted: the disk is full.</source>
+        <translation>&quot;%1&quot; could not be converted: the disk is full.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be written to.</source>
+        <translation>The folder &quot;%1&quot; cannot be written to.</translation>
+    </message>
+    <message>
+        <source>The conversion of &quot;%1&quot; was cancelled.</source>
+        <translation>The conversion of &quot;%1&quot; was cancelled.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too long: even at the lowest quality at most %2 seconds of it fit into %3 MB.</source>
+        <translation>&quot;%1&quot; is too long: even at the lowest quality at most %2 seconds of it fit into %3 MB.</translation>
+    </message>
+</context>
+<context>
+    <name>EditToolBar</name>
+    <message>
+        <source>Undo: %1</source>
+        <translation>Undo: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>Redo: %1</source>
+        <translation>Redo: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Cut</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>Put on every page</source>
+        <translation>Put on every page</translation>
+    </message>
+</context>
+<context>
+    <name>FunctionConfigWidget</name>
+    <message>
+        <source>Layout %1</source>
+        <translation>Layout %1</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Layout</translation>
+    </message>
+</context>
+<context>
+    <name>FunctionList</name>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>No function has this in its name.</source>
+        <translation>No function has this in its name.</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryFrame</name>
+    <message>
+        <source>Delete &quot;%1&quot; from the gallery?</source>
+        <translation>Delete &quot;%1&quot; from the gallery?</translation>
+    </message>
+    <message>
+        <source>Delete %1 pictures from the gallery?</source>
+        <translation>Delete %1 pictures from the gallery?</translation>
+    </message>
+    <message>
+        <source>Could not be deleted:
+%1</source>
+        <translation>Could not be deleted:
+%1</translation>
+    </message>
+    <message>
+        <source>Add pictures...</source>
+        <translation>Add pictures...</translation>
+    </message>
+    <message>
+        <source>There are no pictures yet. Add some with the button below, or drop picture files here. Then drag them from here onto the keys.</source>
+        <translation>There are no pictures yet. Add some with the button below, or drop picture files here. Then drag them from here onto the keys.</translation>
+    </message>
+    <message>
+        <source>Keys keep the pictures that they show.</source>
+        <translation>Keys keep the pictures that they show.</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryPictures</name>
+    <message>
+        <source>%1 is larger than 32 MiB.</source>
+        <translation>%1 is larger than 32 MiB.</translation>
+    </message>
+    <message>
+        <source>%1 is no picture that can be read.</source>
+        <translation>%1 is no picture that can be read.</translation>
+    </message>
+</context>
+<context>
+    <name>KeyCaptureButton</name>
+    <message>
+        <source>Press now</source>
+        <translation>Press now</translation>
+    </message>
+    <message>
+        <source>Press keys</source>
+        <translation>Press keys</translation>
+    </message>
+    <message>
+        <source>Takes the keys that you press together, up to four</source>
+        <translation>Takes the keys that you press together, up to four</translation>
+    </message>
+</context>
+<context>
+    <name>KeyCommands</name>
+    <message>
+        <source>Delete the keys of its child page too?</source>
+        <translation>Delete the keys of its child page too?</translation>
+    </message>
+    <message>
+        <source>Delete the keys of their child pages too?</source>
+        <translation>Delete the keys of their child pages too?</translation>
+    </message>
+    <message>
+        <source>Keys there that have a function: %1</source>
+        <translation>Keys there that have a function: %1</translation>
+    </message>
+    <message>
+        <source>Delete them too</source>
+        <translation>Delete them too</translation>
+    </message>
+    <message>
+        <source>Keep them</source>
+        <translation>Keep them</translation>
+    </message>
+    <message>
+        <source>There are no keys on the clipboard.</source>
+        <translation>There are no keys on the clipboard.</translation>
+    </message>
+    <message>
+        <source>Select a key first.</source>
+        <translation>Select a key first.</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>Select a key with a function first.</source>
+        <translation>Select a key with a function first.</translation>
+    </message>
+    <message>
+        <source>Put on every page</source>
+        <translation>Put on every page</translation>
+    </message>
+    <message>
+        <source>Keys of other pages that were replaced: %1. Undo brings them back.</source>
+        <translation>Keys of other pages that were replaced: %1. Undo brings them back.</translation>
+    </message>
+    <message>
+        <source>Key %1 leads to the page that it is on.</source>
+        <translation>Key %1 leads to the page that it is on.</translation>
+    </message>
+    <message>
+        <source>Key %1 of page %2 leads to the same child page.</source>
+        <translation>Key %1 of page %2 leads to the same child page.</translation>
+    </message>
+    <message>
+        <source>Page %1 has no key that leads back, and key %2 there is not free.</source>
+        <translation>Page %1 has no key that leads back, and key %2 there is not free.</translation>
+    </message>
+    <message>
+        <source>Child page</source>
+        <translation>Child page</translation>
+    </message>
+</context>
+<context>
+    <name>KeyDrag</name>
+    <message>
+        <source>Copy key</source>
+        <translation>Copy key</translation>
+    </message>
+    <message>
+        <source>Swap keys</source>
+        <translation>Swap keys</translation>
+    </message>
+    <message>
+        <source>Move key</source>
+        <translation>Move key</translation>
+    </message>
+</context>
+<context>
+    <name>KeyEdits</name>
+    <message>
+        <source>The keys could not be saved. Is the disk full?</source>
+        <translation>The keys could not be saved. Is the disk full?</translation>
+    </message>
+    <message>
+        <source>The multiple actions could not be saved: %1</source>
+        <translation>The multiple actions could not be saved: %1</translation>
+    </message>
+    <message>
+        <source>A picture could not be saved. Is the disk full?</source>
+        <translation>A picture could not be saved. Is the disk full?</translation>
+    </message>
+    <message>
+        <source>Read from the panel</source>
+        <translation>Read from the panel</translation>
+    </message>
+</context>
+<context>
+    <name>KeyWidget</name>
+    <message>
+        <source>Rows %1-%2</source>
+        <translation>Rows %1-%2</translation>
+    </message>
+    <message>
+        <source>Row %1</source>
+        <translation>Row %1</translation>
+    </message>
+    <message>
+        <source>columns %1-%2</source>
+        <translation>columns %1-%2</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>column %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>row and column</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>place and function</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>empty</translation>
+    </message>
+    <message>
+        <source>%1, title &apos;%2&apos;</source>
+        <translation>%1, title &apos;%2&apos;</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>Function</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Picture</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>The multiple actions could not be saved: %1</source>
+        <translation>The multiple actions could not be saved: %1</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardWidget</name>
+    <message>
+        <source>Clear page</source>
+        <translation>Clear page</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutBar</name>
+    <message>
+        <source>All layouts</source>
+        <translation>All layouts</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutPage</name>
+    <message>
+        <source>Show in the editor</source>
+        <translation>Show in the editor</translation>
+    </message>
+    <message>
+        <source>Keys: %1</source>
+        <translation>Keys: %1</translation>
+    </message>
+    <message>
+        <source>Layout %1</source>
+        <translation>Layout %1</translation>
+    </message>
+</context>
+<context>
+    <name>LimitedText</name>
+    <message>
+        <source>Bytes of the text, and how many the panel has room for</source>
+        <translation>Bytes of the text, and how many the panel has room for</translation>
+    </message>
+    <message>
+        <source>The panel has no %1</source>
+        <translation>The panel has no %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes</source>
+        <translation>%1 of %2 bytes</translation>
+    </message>
+    <message>
+        <source>not sent yet</source>
+        <translation>not sent yet</translation>
+    </message>
+    <message>
+        <source>the panel shows only a part</source>
+        <translation>the panel shows only a part</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ModeEditor</name>
+    <message>
+        <source>Display mode</source>
+        <translation>Display mode</translation>
+    </message>
+    <message>
+        <source>Image effect</source>
+        <translation>Image effect</translation>
+    </message>
+</context>
+<context>
+    <name>MultiActionWidget</name>
+    <message>
+        <source>Switch to the window that shall get the text: %1 s</source>
+        <translation>Switch to the window that shall get the text: %1 s</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>Runs the steps on this computer, as far as it can</source>
+        <translation>Runs the steps on this computer, as far as it can</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>%1: row %2, column %3, page %4</source>
+        <translation>%1: row %2, column %3, page %4</translation>
+    </message>
+    <message>
+        <source>Step %1: %2</source>
+        <translation>Step %1: %2</translation>
+    </message>
+    <message>
+        <source>Steps: %1, %2 of %3 bytes</source>
+        <translation>Steps: %1, %2 of %3 bytes</translation>
+    </message>
+    <message>
+        <source>not saved yet</source>
+        <translation>not saved yet</translation>
+    </message>
+    <message>
+        <source>The saved steps cannot be read: the file %1 is damaged. It stays as it is until you save.</source>
+        <translation>The saved steps cannot be read: the file %1 is damaged. It stays as it is until you save.</translation>
+    </message>
+    <message>
+        <source>The key does not have multiple actions any more. Undo that first, or discard the steps.</source>
+        <translation>The key does not have multiple actions any more. Undo that first, or discard the steps.</translation>
+    </message>
+    <message>
+        <source>The steps are not saved. The panel cannot take these:</source>
+        <translation>The steps are not saved. The panel cannot take these:</translation>
+    </message>
+    <message>
+        <source>The steps are not saved. Together they need %1 bytes, and the panel takes %2.</source>
+        <translation>The steps are not saved. Together they need %1 bytes, and the panel takes %2.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>and %1 more</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged. Begin a new one?</source>
+        <translation>The file %1 is damaged. Begin a new one?</translation>
+    </message>
+    <message>
+        <source>The steps of the other keys cannot be read from the old one either. It is kept as %1.</source>
+        <translation>The steps of the other keys cannot be read from the old one either. It is kept as %1.</translation>
+    </message>
+    <message>
+        <source>The damaged file cannot be renamed. The steps are not saved.</source>
+        <translation>The damaged file cannot be renamed. The steps are not saved.</translation>
+    </message>
+    <message>
+        <source>Save multiple actions</source>
+        <translation>Save multiple actions</translation>
+    </message>
+    <message>
+        <source>The steps could not be saved: %1</source>
+        <translation>The steps could not be saved: %1</translation>
+    </message>
+    <message>
+        <source>Save the steps of this key?</source>
+        <translation>Save the steps of this key?</translation>
+    </message>
+    <message>
+        <source>They have been changed since they were saved.</source>
+        <translation>They have been changed since they were saved.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Discard</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>The steps are running</source>
+        <translation>The steps are running</translation>
+    </message>
+    <message>
+        <source>Step %1 is running</source>
+        <translation>Step %1 is running</translation>
+    </message>
+    <message>
+        <source>All steps have been run</source>
+        <translation>All steps have been run</translation>
+    </message>
+    <message>
+        <source>The test was stopped</source>
+        <translation>The test was stopped</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>PageNavigation</name>
+    <message>
+        <source>Page %1</source>
+        <translation>Page %1</translation>
+    </message>
+</context>
+<context>
+    <name>PendingEdits</name>
+    <message>
+        <source>Waits for the panel</source>
+        <translation>Waits for the panel</translation>
+    </message>
+    <message>
+        <source>Waits to be sent</source>
+        <translation>Waits to be sent</translation>
+    </message>
+    <message>
+        <source>The panel did not take it. It is sent again at the next connection.</source>
+        <translation>The panel did not take it. It is sent again at the next connection.</translation>
+    </message>
+    <message>
+        <source>Its picture, video or action list cannot be read, so it was not sent.</source>
+        <translation>Its picture, video or action list cannot be read, so it was not sent.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureEdits</name>
+    <message>
+        <source>&quot;%1&quot; cannot be opened: %2</source>
+        <translation>&quot;%1&quot; cannot be opened: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has %2 MB. The panel takes videos of up to 10 MB.</source>
+        <translation>&quot;%1&quot; has %2 MB. The panel takes videos of up to 10 MB.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a picture that can be read.</source>
+        <translation>&quot;%1&quot; is not a picture that can be read.</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Picture</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Reset the picture</source>
+        <translation>Reset the picture</translation>
+    </message>
+</context>
+<context>
+    <name>PicturePicker</name>
+    <message>
+        <source>Choose the picture of the key</source>
+        <translation>Choose the picture of the key</translation>
+    </message>
+    <message>
+        <source>Show the icon of the function again</source>
+        <translation>Show the icon of the function again</translation>
+    </message>
+    <message>
+        <source>What the key shows</source>
+        <translation>What the key shows</translation>
+    </message>
+</context>
+<context>
+    <name>PictureUploadPage</name>
+    <message>
+        <source>This file is no picture that can be read.</source>
+        <translation>This file is no picture that can be read.</translation>
+    </message>
+    <message>
+        <source>The picture is in the gallery.</source>
+        <translation>The picture is in the gallery.</translation>
+    </message>
+    <message>
+        <source>On a key:</source>
+        <translation>On a key:</translation>
     </message>
 </context>
 <context>
@@ -124,6 +826,203 @@
     <message>
         <source>Not connected</source>
         <translation>Not connected</translation>
+    </message>
+    <message>
+        <source>Looking for the panel...</source>
+        <translation>Looking for the panel...</translation>
+    </message>
+    <message>
+        <source>Reading the configuration...</source>
+        <translation>Reading the configuration...</translation>
+    </message>
+    <message>
+        <source>Reading the configuration... %1 of %2 keys</source>
+        <translation>Reading the configuration... %1 of %2 keys</translation>
+    </message>
+    <message>
+        <source>Connected. The configuration was not read to its end.</source>
+        <translation>Connected. The configuration was not read to its end.</translation>
+    </message>
+</context>
+<context>
+    <name>StepCombination</name>
+    <message>
+        <source>Choose keys</source>
+        <translation>Choose keys</translation>
+    </message>
+    <message>
+        <source>Key %1</source>
+        <translation>Key %1</translation>
+    </message>
+    <message>
+        <source>(no key)</source>
+        <translation>(no key)</translation>
+    </message>
+</context>
+<context>
+    <name>StepDelegate</name>
+    <message>
+        <source>running</source>
+        <translation>running</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>done</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>failed</translation>
+    </message>
+    <message>
+        <source>skipped: done by the panel</source>
+        <translation>skipped: done by the panel</translation>
+    </message>
+</context>
+<context>
+    <name>StepListView</name>
+    <message>
+        <source>Steps</source>
+        <translation>Steps</translation>
+    </message>
+    <message>
+        <source>Drag functions from the list here</source>
+        <translation>Drag functions from the list here</translation>
+    </message>
+</context>
+<context>
+    <name>StepRow</name>
+    <message>
+        <source>Choose the file to open</source>
+        <translation>Choose the file to open</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>All files</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Copy step %1</source>
+        <translation>Copy step %1</translation>
+    </message>
+    <message>
+        <source>Remove step %1</source>
+        <translation>Remove step %1</translation>
+    </message>
+    <message>
+        <source>Choose the file of step %1</source>
+        <translation>Choose the file of step %1</translation>
+    </message>
+    <message>
+        <source>Content of step %1</source>
+        <translation>Content of step %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepText</name>
+    <message>
+        <source>Every character takes 2 bytes, an emoji takes 4.</source>
+        <translation>Every character takes 2 bytes, an emoji takes 4.</translation>
+    </message>
+    <message>
+        <source>Letters without accents, digits and signs take 1 byte, other characters 2 to 4.</source>
+        <translation>Letters without accents, digits and signs take 1 byte, other characters 2 to 4.</translation>
+    </message>
+    <message>
+        <source>%1 bytes, but the panel takes %2.</source>
+        <translation>%1 bytes, but the panel takes %2.</translation>
+    </message>
+    <message>
+        <source>The panel has no key of this name: %1</source>
+        <translation>The panel has no key of this name: %1</translation>
+    </message>
+    <message>
+        <source>More keys than the %1 that the panel takes.</source>
+        <translation>More keys than the %1 that the panel takes.</translation>
+    </message>
+    <message>
+        <source>A character with the number 0 would end the text before its end.</source>
+        <translation>A character with the number 0 would end the text before its end.</translation>
+    </message>
+    <message>
+        <source>Function %1</source>
+        <translation>Function %1</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>SystemSettingsPage</name>
+    <message>
+        <source>The folder could not be opened: %1</source>
+        <translation>The folder could not be opened: %1</translation>
+    </message>
+    <message>
+        <source>Home layout:</source>
+        <translation>Home layout:</translation>
+    </message>
+    <message>
+        <source>Custom layout:</source>
+        <translation>Custom layout:</translation>
+    </message>
+    <message>
+        <source>Folder of the logs:</source>
+        <translation>Folder of the logs:</translation>
+    </message>
+    <message>
+        <source>Folder of the settings:</source>
+        <translation>Folder of the settings:</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>not known yet</translation>
+    </message>
+</context>
+<context>
+    <name>TitleEditor</name>
+    <message>
+        <source>Size:</source>
+        <translation>Size:</translation>
+    </message>
+    <message>
+        <source>Size of the title</source>
+        <translation>Size of the title</translation>
+    </message>
+    <message>
+        <source>Size of the title, in points</source>
+        <translation>Size of the title, in points</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Points</translation>
+    </message>
+    <message>
+        <source>Colour:</source>
+        <translation>Colour:</translation>
+    </message>
+    <message>
+        <source>Title alignment: %1</source>
+        <translation>Title alignment: %1</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>Title size</source>
+        <translation>Title size</translation>
+    </message>
+    <message>
+        <source>Title colour</source>
+        <translation>Title colour</translation>
+    </message>
+    <message>
+        <source>Title alignment</source>
+        <translation>Title alignment</translation>
     </message>
 </context>
 </TS>

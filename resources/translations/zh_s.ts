@@ -2,42 +2,744 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
-    <name>MainFrame</name>
+    <name>AttributeEditor</name>
     <message>
-        <source>Looking for the panel...</source>
-        <translation>正在查找面板...</translation>
+        <source>Key %1 keeps its last title that could be sent.</source>
+        <translation>按键 %1 保留最后一个可以发送的标题。</translation>
     </message>
     <message>
-        <source>Reading the configuration...</source>
-        <translation>正在读取配置...</translation>
+        <source>Key %1 keeps its last content that could be sent.</source>
+        <translation>按键 %1 保留最后一个可以发送的内容。</translation>
     </message>
     <message>
-        <source>Reading the configuration... %1 of %2 keys</source>
-        <translation>正在读取配置... 第 %1 个按键，共 %2 个</translation>
+        <source>Step %1: %2</source>
+        <translation>步骤 %1：%2</translation>
     </message>
     <message>
-        <source>Connected. The configuration was not read to its end.</source>
-        <translation>已连接。配置未能读取完整。</translation>
+        <source>Key %1: %2</source>
+        <translation>按键 %1：%2</translation>
     </message>
     <message>
-        <source>Connected</source>
-        <translation>已连接</translation>
+        <source>Key %1</source>
+        <translation>按键 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ColourButton</name>
+    <message>
+        <source>White</source>
+        <translation>白色</translation>
     </message>
     <message>
-        <source>Custom layout: %1</source>
-        <translation>自定义布局：%1</translation>
+        <source>Grey</source>
+        <translation>灰色</translation>
     </message>
     <message>
-        <source>Brightness: %1</source>
-        <translation>亮度：%1</translation>
+        <source>Black</source>
+        <translation>黑色</translation>
     </message>
     <message>
-        <source>Home layout: %1</source>
-        <translation>首页布局：%1</translation>
+        <source>Red</source>
+        <translation>红色</translation>
     </message>
     <message>
-        <source>System type: %1</source>
-        <translation>系统类型：%1</translation>
+        <source>Orange</source>
+        <translation>橙色</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>黄色</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>绿色</translation>
+    </message>
+    <message>
+        <source>Turquoise</source>
+        <translation>青绿色</translation>
+    </message>
+    <message>
+        <source>Light blue</source>
+        <translation>浅蓝色</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>蓝色</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <translation>紫色</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <translation>粉色</translation>
+    </message>
+    <message>
+        <source>Title colour</source>
+        <translation>标题颜色</translation>
+    </message>
+    <message>
+        <source>More colours...</source>
+        <translation>更多颜色...</translation>
+    </message>
+</context>
+<context>
+    <name>CombinationField</name>
+    <message>
+        <source>Key %1 of the combination</source>
+        <translation>组合键的第 %1 个键</translation>
+    </message>
+</context>
+<context>
+    <name>ContentEditor</name>
+    <message>
+        <source>Choose the file that the key opens</source>
+        <translation>选择按键要打开的文件</translation>
+    </message>
+    <message>
+        <source>Web address:</source>
+        <translation>网址：</translation>
+    </message>
+    <message>
+        <source>None chosen</source>
+        <translation>未选择</translation>
+    </message>
+    <message>
+        <source>Video of the key</source>
+        <translation>按键的视频</translation>
+    </message>
+    <message>
+        <source>Choose the video that the key plays</source>
+        <translation>选择按键要播放的视频</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>路径</translation>
+    </message>
+    <message>
+        <source>Web address</source>
+        <translation>网址</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Key combination</source>
+        <translation>组合键</translation>
+    </message>
+    <message>
+        <source>Opens the home page of the browser on this computer.</source>
+        <translation>在这台电脑上打开浏览器主页。</translation>
+    </message>
+    <message>
+        <source>Runs several actions one after the other. Double click the key, or press Enter on it, to edit them.</source>
+        <translation>依次执行多个操作。双击按键，或在按键上按 Enter，即可编辑这些操作。</translation>
+    </message>
+    <message>
+        <source>Shows a page of its own with further keys. Double click the key, or press Enter on it, to open that page.</source>
+        <translation>显示带有更多按键的独立页面。双击按键，或在按键上按 Enter，即可打开该页面。</translation>
+    </message>
+    <message>
+        <source>Leads from a child page back to the main page.</source>
+        <translation>从子页面返回主页面。</translation>
+    </message>
+    <message>
+        <source>The panel does this by itself. There is nothing more to set.</source>
+        <translation>此功能由面板自行完成，无需其他设置。</translation>
+    </message>
+    <message>
+        <source>This program does not know the function %1 of the key.</source>
+        <translation>本程序不认识该按键的功能 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>Conversion</name>
+    <message>
+        <source>&quot;%1&quot; cannot be opened.</source>
+        <translation>无法打开“%1”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a picture that can be read.</source>
+        <translation>“%1”不是可读取的图片。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a video that can be read.</source>
+        <translation>“%1”不是可读取的视频。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large: a picture may have up to %2 x %2 pixels.</source>
+        <translation>“%1”太大：图片最大为 %2 x %2 像素。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged or not complete.</source>
+        <translation>“%1”已损坏或不完整。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be converted to a size without pixels.</source>
+        <translation>无法将“%1”转换为没有像素的尺寸。</translation>
+    </message>
+    <message>
+        <source>The program that converts pictures and videos is missing or cannot be started: %1</source>
+        <translation>用于转换图片和视频的程序缺失或无法启动：%1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be converted.</source>
+        <translation>无法转换“%1”。</translation>
+    </message>
+    <message>
+        <source>The conversion of &quot;%1&quot; took too long and was given up.</source>
+        <translation>转换“%1”耗时过长，已放弃。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be converted: the disk is full.</source>
+        <translation>无法转换“%1”：磁盘已满。</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be written to.</source>
+        <translation>无法写入文件夹“%1”。</translation>
+    </message>
+    <message>
+        <source>The conversion of &quot;%1&quot; was cancelled.</source>
+        <translation>已取消转换“%1”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too long: even at the lowest quality at most %2 seconds of it fit into %3 MB.</source>
+        <translation>“%1”太长：即使使用最低质量，%3 MB 也最多只能容纳其中的 %2 秒。</translation>
+    </message>
+</context>
+<context>
+    <name>EditToolBar</name>
+    <message>
+        <source>Undo: %1</source>
+        <translation>撤销：%1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Redo: %1</source>
+        <translation>重做：%1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>剪切</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Put on every page</source>
+        <translation>放到每一页</translation>
+    </message>
+</context>
+<context>
+    <name>FunctionConfigWidget</name>
+    <message>
+        <source>Layout %1</source>
+        <translation>布局 %1</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>布局</translation>
+    </message>
+</context>
+<context>
+    <name>FunctionList</name>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+    <message>
+        <source>No function has this in its name.</source>
+        <translation>没有名称包含此内容的功能。</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryFrame</name>
+    <message>
+        <source>Delete &quot;%1&quot; from the gallery?</source>
+        <translation>要从图库中删除“%1”吗？</translation>
+    </message>
+    <message>
+        <source>Delete %1 pictures from the gallery?</source>
+        <translation>要从图库中删除 %1 张图片吗？</translation>
+    </message>
+    <message>
+        <source>Could not be deleted:
+%1</source>
+        <translation>无法删除：
+%1</translation>
+    </message>
+    <message>
+        <source>Add pictures...</source>
+        <translation>添加图片...</translation>
+    </message>
+    <message>
+        <source>There are no pictures yet. Add some with the button below, or drop picture files here. Then drag them from here onto the keys.</source>
+        <translation>还没有图片。请用下面的按钮添加，或将图片文件拖到此处，然后再从此处拖到按键上。</translation>
+    </message>
+    <message>
+        <source>Keys keep the pictures that they show.</source>
+        <translation>按键会保留其显示的图片。</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryPictures</name>
+    <message>
+        <source>%1 is larger than 32 MiB.</source>
+        <translation>%1 大于 32 MiB。</translation>
+    </message>
+    <message>
+        <source>%1 is no picture that can be read.</source>
+        <translation>%1 不是可读取的图片。</translation>
+    </message>
+</context>
+<context>
+    <name>KeyCaptureButton</name>
+    <message>
+        <source>Press now</source>
+        <translation>请按键</translation>
+    </message>
+    <message>
+        <source>Press keys</source>
+        <translation>录入按键</translation>
+    </message>
+    <message>
+        <source>Takes the keys that you press together, up to four</source>
+        <translation>录入同时按下的键，最多四个</translation>
+    </message>
+</context>
+<context>
+    <name>KeyCommands</name>
+    <message>
+        <source>Delete the keys of its child page too?</source>
+        <translation>要同时删除其子页面上的按键吗？</translation>
+    </message>
+    <message>
+        <source>Delete the keys of their child pages too?</source>
+        <translation>要同时删除它们的子页面上的按键吗？</translation>
+    </message>
+    <message>
+        <source>Keys there that have a function: %1</source>
+        <translation>其中已设置功能的按键数：%1</translation>
+    </message>
+    <message>
+        <source>Delete them too</source>
+        <translation>一并删除</translation>
+    </message>
+    <message>
+        <source>Keep them</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>There are no keys on the clipboard.</source>
+        <translation>剪贴板上没有按键。</translation>
+    </message>
+    <message>
+        <source>Select a key first.</source>
+        <translation>请先选择一个按键。</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Select a key with a function first.</source>
+        <translation>请先选择一个有功能的按键。</translation>
+    </message>
+    <message>
+        <source>Put on every page</source>
+        <translation>放到每一页</translation>
+    </message>
+    <message>
+        <source>Keys of other pages that were replaced: %1. Undo brings them back.</source>
+        <translation>其他页面上被替换的按键数：%1。可通过撤销恢复。</translation>
+    </message>
+    <message>
+        <source>Key %1 leads to the page that it is on.</source>
+        <translation>按键 %1 指向其所在的页面。</translation>
+    </message>
+    <message>
+        <source>Key %1 of page %2 leads to the same child page.</source>
+        <translation>第 %2 页的按键 %1 也指向同一个子页面。</translation>
+    </message>
+    <message>
+        <source>Page %1 has no key that leads back, and key %2 there is not free.</source>
+        <translation>第 %1 页没有返回按键，并且该页的按键 %2 已被占用。</translation>
+    </message>
+    <message>
+        <source>Child page</source>
+        <translation>子页面</translation>
+    </message>
+</context>
+<context>
+    <name>KeyDrag</name>
+    <message>
+        <source>Copy key</source>
+        <translation>复制按键</translation>
+    </message>
+    <message>
+        <source>Swap keys</source>
+        <translation>交换按键</translation>
+    </message>
+    <message>
+        <source>Move key</source>
+        <translation>移动按键</translation>
+    </message>
+</context>
+<context>
+    <name>KeyEdits</name>
+    <message>
+        <source>The keys could not be saved. Is the disk full?</source>
+        <translation>无法保存按键。磁盘是否已满？</translation>
+    </message>
+    <message>
+        <source>The multiple actions could not be saved: %1</source>
+        <translation>无法保存多重操作：%1</translation>
+    </message>
+    <message>
+        <source>A picture could not be saved. Is the disk full?</source>
+        <translation>有一张图片无法保存。磁盘是否已满？</translation>
+    </message>
+    <message>
+        <source>Read from the panel</source>
+        <translation>从面板读取</translation>
+    </message>
+</context>
+<context>
+    <name>KeyWidget</name>
+    <message>
+        <source>Rows %1-%2</source>
+        <translation>第 %1-%2 行</translation>
+    </message>
+    <message>
+        <source>Row %1</source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message>
+        <source>columns %1-%2</source>
+        <translation>第 %1-%2 列</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>第 %1 列</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>row and column</comment>
+        <translation>%1，%2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>place and function</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>%1, title &apos;%2&apos;</source>
+        <translation>%1，标题“%2”</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>功能</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>The multiple actions could not be saved: %1</source>
+        <translation>无法保存多重操作：%1</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardWidget</name>
+    <message>
+        <source>Clear page</source>
+        <translation>清空页面</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutBar</name>
+    <message>
+        <source>All layouts</source>
+        <translation>所有布局</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutPage</name>
+    <message>
+        <source>Show in the editor</source>
+        <translation>在编辑器中显示</translation>
+    </message>
+    <message>
+        <source>Keys: %1</source>
+        <translation>按键数：%1</translation>
+    </message>
+    <message>
+        <source>Layout %1</source>
+        <translation>布局 %1</translation>
+    </message>
+</context>
+<context>
+    <name>LimitedText</name>
+    <message>
+        <source>Bytes of the text, and how many the panel has room for</source>
+        <translation>文本的字节数，以及面板可容纳的字节数</translation>
+    </message>
+    <message>
+        <source>The panel has no %1</source>
+        <translation>面板没有字符 %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes</source>
+        <translation>%1 / %2 字节</translation>
+    </message>
+    <message>
+        <source>not sent yet</source>
+        <translation>尚未发送</translation>
+    </message>
+    <message>
+        <source>the panel shows only a part</source>
+        <translation>面板只显示一部分</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>ModeEditor</name>
+    <message>
+        <source>Display mode</source>
+        <translation>显示模式</translation>
+    </message>
+    <message>
+        <source>Image effect</source>
+        <translation>图片效果</translation>
+    </message>
+</context>
+<context>
+    <name>MultiActionWidget</name>
+    <message>
+        <source>Switch to the window that shall get the text: %1 s</source>
+        <translation>请切换到要接收文本的窗口：%1 秒</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>测试</translation>
+    </message>
+    <message>
+        <source>Runs the steps on this computer, as far as it can</source>
+        <translation>在这台电脑上执行可以执行的步骤</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>%1: row %2, column %3, page %4</source>
+        <translation>%1：第 %2 行，第 %3 列，第 %4 页</translation>
+    </message>
+    <message>
+        <source>Step %1: %2</source>
+        <translation>步骤 %1：%2</translation>
+    </message>
+    <message>
+        <source>Steps: %1, %2 of %3 bytes</source>
+        <translation>步骤数：%1，%2 / %3 字节</translation>
+    </message>
+    <message>
+        <source>not saved yet</source>
+        <translation>尚未保存</translation>
+    </message>
+    <message>
+        <source>The saved steps cannot be read: the file %1 is damaged. It stays as it is until you save.</source>
+        <translation>无法读取已保存的步骤：文件 %1 已损坏。在您保存之前，该文件保持不变。</translation>
+    </message>
+    <message>
+        <source>The key does not have multiple actions any more. Undo that first, or discard the steps.</source>
+        <translation>该按键已不再具有多重操作。请先撤销该更改，或放弃这些步骤。</translation>
+    </message>
+    <message>
+        <source>The steps are not saved. The panel cannot take these:</source>
+        <translation>步骤未保存。面板无法接受以下步骤：</translation>
+    </message>
+    <message>
+        <source>The steps are not saved. Together they need %1 bytes, and the panel takes %2.</source>
+        <translation>步骤未保存。这些步骤共需 %1 字节，而面板最多接受 %2 字节。</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>以及另外 %1 个</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged. Begin a new one?</source>
+        <translation>文件 %1 已损坏。要新建一个文件吗？</translation>
+    </message>
+    <message>
+        <source>The steps of the other keys cannot be read from the old one either. It is kept as %1.</source>
+        <translation>其他按键的步骤也无法从旧文件中读取。旧文件将保留为 %1。</translation>
+    </message>
+    <message>
+        <source>The damaged file cannot be renamed. The steps are not saved.</source>
+        <translation>无法重命名已损坏的文件。步骤未保存。</translation>
+    </message>
+    <message>
+        <source>Save multiple actions</source>
+        <translation>保存多重操作</translation>
+    </message>
+    <message>
+        <source>The steps could not be saved: %1</source>
+        <translation>无法保存步骤：%1</translation>
+    </message>
+    <message>
+        <source>Save the steps of this key?</source>
+        <translation>要保存此按键的步骤吗？</translation>
+    </message>
+    <message>
+        <source>They have been changed since they were saved.</source>
+        <translation>这些步骤在上次保存后已更改。</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>放弃</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>The steps are running</source>
+        <translation>正在执行步骤</translation>
+    </message>
+    <message>
+        <source>Step %1 is running</source>
+        <translation>正在执行步骤 %1</translation>
+    </message>
+    <message>
+        <source>All steps have been run</source>
+        <translation>所有步骤均已执行</translation>
+    </message>
+    <message>
+        <source>The test was stopped</source>
+        <translation>测试已停止</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>PageNavigation</name>
+    <message>
+        <source>Page %1</source>
+        <translation>第 %1 页</translation>
+    </message>
+</context>
+<context>
+    <name>PendingEdits</name>
+    <message>
+        <source>Waits for the panel</source>
+        <translation>正在等待面板</translation>
+    </message>
+    <message>
+        <source>Waits to be sent</source>
+        <translation>正在等待发送</translation>
+    </message>
+    <message>
+        <source>The panel did not take it. It is sent again at the next connection.</source>
+        <translation>面板未接受。下次连接时将重新发送。</translation>
+    </message>
+    <message>
+        <source>Its picture, video or action list cannot be read, so it was not sent.</source>
+        <translation>无法读取其图片、视频或操作列表，因此未发送。</translation>
+    </message>
+</context>
+<context>
+    <name>PictureEdits</name>
+    <message>
+        <source>&quot;%1&quot; cannot be opened: %2</source>
+        <translation>无法打开“%1”：%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has %2 MB. The panel takes videos of up to 10 MB.</source>
+        <translation>“%1”的大小为 %2 MB。面板最多接受 10 MB 的视频。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a picture that can be read.</source>
+        <translation>“%1”不是可读取的图片。</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>Reset the picture</source>
+        <translation>重置图片</translation>
+    </message>
+</context>
+<context>
+    <name>PicturePicker</name>
+    <message>
+        <source>Choose the picture of the key</source>
+        <translation>选择按键的图片</translation>
+    </message>
+    <message>
+        <source>Show the icon of the function again</source>
+        <translation>重新显示功能图标</translation>
+    </message>
+    <message>
+        <source>What the key shows</source>
+        <translation>按键显示的内容</translation>
+    </message>
+</context>
+<context>
+    <name>PictureUploadPage</name>
+    <message>
+        <source>This file is no picture that can be read.</source>
+        <translation>此文件不是可读取的图片。</translation>
+    </message>
+    <message>
+        <source>The picture is in the gallery.</source>
+        <translation>图片已在图库中。</translation>
+    </message>
+    <message>
+        <source>On a key:</source>
+        <translation>在按键上：</translation>
     </message>
 </context>
 <context>
@@ -124,6 +826,203 @@
     <message>
         <source>Not connected</source>
         <translation>未连接</translation>
+    </message>
+    <message>
+        <source>Looking for the panel...</source>
+        <translation>正在查找面板...</translation>
+    </message>
+    <message>
+        <source>Reading the configuration...</source>
+        <translation>正在读取配置...</translation>
+    </message>
+    <message>
+        <source>Reading the configuration... %1 of %2 keys</source>
+        <translation>正在读取配置... 第 %1 个按键，共 %2 个</translation>
+    </message>
+    <message>
+        <source>Connected. The configuration was not read to its end.</source>
+        <translation>已连接。配置未能读取完整。</translation>
+    </message>
+</context>
+<context>
+    <name>StepCombination</name>
+    <message>
+        <source>Choose keys</source>
+        <translation>选择按键</translation>
+    </message>
+    <message>
+        <source>Key %1</source>
+        <translation>第 %1 个键</translation>
+    </message>
+    <message>
+        <source>(no key)</source>
+        <translation>（无按键）</translation>
+    </message>
+</context>
+<context>
+    <name>StepDelegate</name>
+    <message>
+        <source>running</source>
+        <translation>正在执行</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>已完成</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>skipped: done by the panel</source>
+        <translation>已跳过：由面板执行</translation>
+    </message>
+</context>
+<context>
+    <name>StepListView</name>
+    <message>
+        <source>Steps</source>
+        <translation>步骤</translation>
+    </message>
+    <message>
+        <source>Drag functions from the list here</source>
+        <translation>将列表中的功能拖到此处</translation>
+    </message>
+</context>
+<context>
+    <name>StepRow</name>
+    <message>
+        <source>Choose the file to open</source>
+        <translation>选择要打开的文件</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>所有文件</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>毫秒</translation>
+    </message>
+    <message>
+        <source>Copy step %1</source>
+        <translation>复制步骤 %1</translation>
+    </message>
+    <message>
+        <source>Remove step %1</source>
+        <translation>移除步骤 %1</translation>
+    </message>
+    <message>
+        <source>Choose the file of step %1</source>
+        <translation>选择步骤 %1 的文件</translation>
+    </message>
+    <message>
+        <source>Content of step %1</source>
+        <translation>步骤 %1 的内容</translation>
+    </message>
+</context>
+<context>
+    <name>StepText</name>
+    <message>
+        <source>Every character takes 2 bytes, an emoji takes 4.</source>
+        <translation>每个字符占 2 字节，表情符号占 4 字节。</translation>
+    </message>
+    <message>
+        <source>Letters without accents, digits and signs take 1 byte, other characters 2 to 4.</source>
+        <translation>不带重音的字母、数字和符号占 1 字节，其他字符占 2 到 4 字节。</translation>
+    </message>
+    <message>
+        <source>%1 bytes, but the panel takes %2.</source>
+        <translation>%1 字节，而面板最多接受 %2 字节。</translation>
+    </message>
+    <message>
+        <source>The panel has no key of this name: %1</source>
+        <translation>面板没有此名称的键：%1</translation>
+    </message>
+    <message>
+        <source>More keys than the %1 that the panel takes.</source>
+        <translation>键数超过面板可接受的 %1 个。</translation>
+    </message>
+    <message>
+        <source>A character with the number 0 would end the text before its end.</source>
+        <translation>编号为 0 的字符会使文本提前结束。</translation>
+    </message>
+    <message>
+        <source>Function %1</source>
+        <translation>功能 %1</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 毫秒</translation>
+    </message>
+</context>
+<context>
+    <name>SystemSettingsPage</name>
+    <message>
+        <source>The folder could not be opened: %1</source>
+        <translation>无法打开文件夹：%1</translation>
+    </message>
+    <message>
+        <source>Home layout:</source>
+        <translation>首页布局：</translation>
+    </message>
+    <message>
+        <source>Custom layout:</source>
+        <translation>自定义布局：</translation>
+    </message>
+    <message>
+        <source>Folder of the logs:</source>
+        <translation>日志文件夹：</translation>
+    </message>
+    <message>
+        <source>Folder of the settings:</source>
+        <translation>设置文件夹：</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>尚未获知</translation>
+    </message>
+</context>
+<context>
+    <name>TitleEditor</name>
+    <message>
+        <source>Size:</source>
+        <translation>大小：</translation>
+    </message>
+    <message>
+        <source>Size of the title</source>
+        <translation>标题大小</translation>
+    </message>
+    <message>
+        <source>Size of the title, in points</source>
+        <translation>标题大小（磅）</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>磅</translation>
+    </message>
+    <message>
+        <source>Colour:</source>
+        <translation>颜色：</translation>
+    </message>
+    <message>
+        <source>Title alignment: %1</source>
+        <translation>标题对齐：%1</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>Title size</source>
+        <translation>标题大小</translation>
+    </message>
+    <message>
+        <source>Title colour</source>
+        <translation>标题颜色</translation>
+    </message>
+    <message>
+        <source>Title alignment</source>
+        <translation>标题对齐</translation>
     </message>
 </context>
 </TS>
