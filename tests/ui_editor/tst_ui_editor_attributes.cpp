@@ -86,14 +86,18 @@ struct Window
     AttributeEditor attributes;
 };
 
-void drop(QWidget *target, const QMimeData &mime)
+/// @return what the drag is told to do with its origin.
+Qt::DropAction drop(QWidget *target, const QMimeData &mime, Qt::DropAction proposed = Qt::CopyAction)
 {
-    QDragEnterEvent enter(target->rect().center(), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    const Qt::DropActions possible = Qt::CopyAction | proposed;
+    QDragEnterEvent enter(target->rect().center(), possible, &mime, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(target, &enter);
     if (!enter.isAccepted())
-        return;
-    QDropEvent event(target->rect().center(), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        return Qt::IgnoreAction;
+    QDropEvent event(target->rect().center(), possible, &mime, Qt::LeftButton, Qt::NoModifier);
+    event.setDropAction(proposed);
     QApplication::sendEvent(target, &event);
+    return event.isAccepted() ? event.dropAction() : Qt::IgnoreAction;
 }
 
 } // namespace
@@ -219,6 +223,9 @@ private slots:
         QTest::newRow("text output of 65 units")
             << 15 << QStringLiteral("outputText") << x.repeated(65) << QStringLiteral("130/128")
             << QStringLiteral("130 of 128 bytes");
+        QTest::newRow("no-break space in text output")
+            << 15 << QStringLiteral("outputText") << QString(QChar(QChar::Nbsp)) + x
+            << QStringLiteral("4/128") << QString();
         QTest::newRow("emoji in text output")
             << 15 << QStringLiteral("outputText") << emoji() << QStringLiteral("4/128") << QString();
     }
@@ -441,6 +448,35 @@ private slots:
         QCOMPARE(window.fixture.requests, QStringList());
     }
 
+    void whatIsChosenGoesToTheKeyItWasChosenFor_data()
+    {
+        QTest::addColumn<bool>("cleared");
+        QTest::addColumn<QStringList>("requests");
+        QTest::newRow("another key is in view") << false << QStringList({sent(2, 11)});
+        QTest::newRow("the key was cleared") << true << QStringList();
+    }
+
+    void whatIsChosenGoesToTheKeyItWasChosenFor()
+    {
+        QFETCH(bool, cleared);
+        Window window(2);
+        FileDialog::setAnswer([&](const QString &) { // while it is open the panel is read
+            if (cleared)
+                window.fixture.store.deleteKeyAttribute(Key);
+            window.attributes.showKey(Other);
+            return QStringList{QStringLiteral("/tool")};
+        });
+        window.click("choosePath");
+        QTEST(window.fixture.takeRequests(), "requests");
+        QCOMPARE(window.record(Other).strAppOrUrl, QString());
+        window.click("titleColour");
+        QTRY_VERIFY(window.find("colourPalette")->isVisible());
+        window.attributes.showKey({1, 1, 5}); // without function
+        window.fixture.store.createKeyAttribute(Key, 5);
+        window.attributes.showKey(Key);
+        QVERIFY(!window.find("colourPalette")->isVisible());
+    }
+
     void pictureIsChosenDroppedAndReset()
     {
         Window window(2);
@@ -471,7 +507,7 @@ private slots:
         QCOMPARE(QImage(window.record().customImage).pixelColor(0, 0), QColor(Qt::red));
         QMimeData file;
         file.setUrls({QUrl::fromLocalFile(pictureFile(window.fixture.path("blue.png"), Qt::blue))});
-        drop(window.find("keyPreview"), file);
+        QCOMPARE(drop(window.find("keyPreview"), file, Qt::MoveAction), Qt::CopyAction);
         QCOMPARE(window.record().customImage, window.fixture.path("blue.png"));
     }
 

@@ -197,6 +197,7 @@ private slots:
         QVERIFY(!cell.picture().isNull());
         for (const QByteArray &bytes : {numbers({0}), numbers({256}), numbers({100}), QByteArray("\0\0", 2)})
             QCOMPARE(cell.drop(mime(FunctionId, bytes)), Qt::IgnoreAction);
+        QCOMPARE(cell.drop(mime(FunctionIcon, "\1")), Qt::IgnoreAction);
         QVERIFY(fixture.requests.isEmpty());
         cell.drop(function(6)); // the record of a used key is not deleted first
         QCOMPARE(fixture.log.count("delete old keyattr"), 1);
@@ -341,6 +342,7 @@ private slots:
         QCOMPARE(stepsOf(Key), fid == 4 ? 0 : 1);
         QCOMPARE(vorlindesk::SystemSettings::homeLayoutEntry(3).pageId, 4);
         QCOMPARE(changed.size(), 1);
+        QCOMPARE(fixture.log.count(" delActionsByKeyId nFid:4"), fid == 4 ? 1 : 0); // of the menu alone
 
         prepare();
         cell.updateFid();

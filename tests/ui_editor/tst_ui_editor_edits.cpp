@@ -174,6 +174,30 @@ private slots:
         QCOMPARE(numbers(attributesToSend(from, to)), ids);
     }
 
+    void whatNoAttributeTakesAway()
+    {
+        const KeyState video =
+            stateOf(17, [](KeyState &state) { state.record->defaultImage = QStringLiteral("v.mp4"); });
+        const auto icon = [](KeyState &state) {
+            state.record->defaultImage = QStringLiteral(":/icon");
+        };
+        QCOMPARE(numbers(attributesToRestore(video, stateOf(17, icon))), QVector<int>({13, 8, 9}));
+        QCOMPARE(numbers(attributesToRestore(stateOf(5), stateOf(11))), QVector<int>({13, 8}));
+        QCOMPARE(numbers(attributesToRestore(stateOf(5), stateOf(6))), QVector<int>({8, 9}));
+    }
+
+    void aKeyNamedTwiceGetsTheLast()
+    {
+        EditorFixture fixture;
+        KeyEdits &edits = fixture.editor().edits;
+        const KeyState steps = stateOf(4, [](KeyState &state) { state.steps = {{3, 0, {}}}; });
+        edits.place(QStringLiteral("paste"), {{Key, steps}, {Other, steps}, {Key, stateOf(5)}});
+        QCOMPARE(
+            fixture.requests.filter(QStringLiteral(" 1 1 3,")),
+            QStringList({QStringLiteral("1: 1 1 3, fid 5, id 8"), QStringLiteral("1: 1 1 3, fid 5, id 9")}));
+        QVERIFY(vorlinmodel::multiActionStore().readActionsByKeyId(1, 1, 3).isEmpty());
+    }
+
     void undoBringsThePictureBackThatASavingHasReplaced()
     {
         EditorFixture fixture;
@@ -266,6 +290,84 @@ private slots:
         QCOMPARE(panelTitle(fixture, Key), QByteArray("t"));
     }
 
+    void whatAMarkOutlives_data()
+    {
+        QTest::addColumn<int>("refused");
+        QTest::addColumn<int>("taken");
+        QTest::addColumn<bool>("stays");
+        QTest::newRow("another value") << 6 << 7 << true;
+        QTest::newRow("the picture, under its other id") << 9 << 5 << false;
+        QTest::newRow("the key was cleared") << 5 << 13 << false;
+    }
+
+    void whatAMarkOutlives()
+    {
+        using vorlinmodel::RequestOutcome;
+        QFETCH(int, refused);
+        QFETCH(int, taken);
+        QFETCH(bool, stays);
+        PendingEdits pending;
+        const auto post = [&](int id, RequestOutcome outcome) {
+            pending.posted(Key, AttributeId(id));
+            pending.posted(Key, AttributeId::TitleColour); // what is posted later is not covered
+            pending.done(Key, AttributeId(id), outcome);
+            QVERIFY(pending.attributes(Key).count(AttributeId::TitleColour) != 0);
+            pending.done(Key, AttributeId::TitleColour, RequestOutcome::Sent);
+        };
+        post(refused, RequestOutcome::Unreadable);
+        QCOMPARE(int(pending.mark(Key)), int(PendingEdits::Mark::Failed));
+        post(taken, RequestOutcome::Sent);
+        QCOMPARE(pending.mark(Key) == PendingEdits::Mark::Failed, stays);
+        QCOMPARE(pending.keys().isEmpty(), !stays);
+    }
+
+    void whatThePendingFileHolds()
+    {
+        EditorFixture fixture;
+        fixture.store.createKeyAttribute(Key, vorlinmodel::TEXT_OUTPUT_FID);
+        QFile file(fixture.path("devConfig/pending.ini"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("[pending]\n1_1_3=11\n999_1_3=8\n1_17_3=8\n1_1_16=8\n1_1_4=4 16 99\n");
+        file.close();
+        fixture.editor()
+            .edits.sendPending(); // an address, on a key that puts out a text by now: all is sent anew
+        QCOMPARE(fixture.takeRequests(), QStringList({QStringLiteral("1: 1 1 3, fid 15, id 13"),
+                                                      QStringLiteral("1: 1 1 3, fid 15, id 8"),
+                                                      QStringLiteral("1: 1 1 3, fid 15, id 9")}));
+    }
+
+    void aPanelThatComesDuringAReadGetsItAfterwards()
+    {
+        EditorFixture fixture;
+        KeyEdits &edits = fixture.editor().edits;
+        drop(fixture, Key, 5);
+        fixture.takeRequests();
+        edits.beginRead();
+        fixture.store.deleteKeyAttribute(Key);
+        fixture.store.createKeyAttribute(Key, 7);
+        edits.sendPending(); // the store holds what the panel shows, not what the person wants
+        QVERIFY(fixture.requests.isEmpty());
+        edits.endRead(false, {Key});
+        QCOMPARE(fixture.takeRequests().mid(1), QStringList({QStringLiteral("1: 1 1 3, fid 5, id 8"),
+                                                             QStringLiteral("1: 1 1 3, fid 5, id 9")}));
+    }
+
+    void aReadThatEndsEarlyLosesNoPicture()
+    {
+        EditorFixture fixture;
+        KeyEdits &edits = fixture.editor().edits;
+        fixture.store.createKeyAttribute(Key, 5);
+        fixture.store.setCustomImage(Key, pictureFile(fixture.path("red.png"), Qt::red));
+        QVERIFY(edits.saveNow());
+        edits.beginRead();
+        QVERIFY(
+            QFile::remove(fixture.store.getCustomImage(Key))); // as the first page of a read does with all
+        edits.endRead(false, {Other});
+        QCOMPARE(pixelOf(fixture, Key), QColor(Qt::red).rgb());
+        QVERIFY(edits.saveNow());
+        QVERIFY(QFile::exists(fixture.path("devConfig/image/1_1_3.png")));
+    }
+
     void aReadKeepsWhatThePanelHasNotTaken()
     {
         EditorFixture fixture(Panel::Absent);
@@ -325,10 +427,18 @@ private slots:
     void foreignBytesOnTheClipboardAreNoKeys_data()
     {
         QTest::addColumn<QByteArray>("bytes");
-        QByteArray sound;
-        QDataStream stream(&sound, QIODevice::WriteOnly);
-        stream.setVersion(QDataStream::Qt_5_15);
-        stream << quint32(0x564B4559) << qint32(1) << qint32(3) << stateOf(5);
+        const auto copied = [](const KeyState &state) {
+            QByteArray bytes;
+            QDataStream stream(&bytes, QIODevice::WriteOnly);
+            stream.setVersion(QDataStream::Qt_5_15);
+            stream << quint32(0x564B4559) << qint32(1) << qint32(3) << state;
+            return bytes;
+        };
+        const QByteArray sound = copied(stateOf(5));
+        const auto large = [](KeyState &state) {
+            state.record->titleFontSize = 256;
+        };
+        QTest::newRow("a font size of 256") << copied(stateOf(5, large));
         QTest::newRow("empty") << QByteArray();
         QTest::newRow("cut") << sound.left(sound.size() - 1);
         QTest::newRow("another magic") << QByteArray(sound).replace(0, 1, "W");

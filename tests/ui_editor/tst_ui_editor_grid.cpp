@@ -161,6 +161,11 @@ private slots:
         test.show();
         QCOMPARE(test.grid->cell(1)->geometry(), QRect(0, 0, 202, 190));
         QVERIFY(!test.grid->cell(3)->acceptDrops()); // covers nothing
+        test.click(2);
+        test.press(Qt::Key_Tab);
+        QCOMPARE(test.selected(), QStringLiteral("1"));
+        test.grid->selectAll();
+        QCOMPARE(test.selected(), QStringLiteral("1 2"));
 
         KeyboardWidget missing(test.fixture.editor(), 3, 1, nullptr);
         QVERIFY(missing.setup(true, true));

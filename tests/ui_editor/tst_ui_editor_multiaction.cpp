@@ -251,6 +251,7 @@ private slots:
         QTest::keyClicks(text, QStringLiteral("x"));
         QTest::keyClick(text, Qt::Key_Return);
         QTest::keyClicks(text, QStringLiteral("y"));
+        QTest::keyClick(text, Qt::Key_Return, Qt::ShiftModifier); // the same for who gets the text
         auto *keys = editor.part<QPushButton>(3);
         QCOMPARE(keys->text(), QStringLiteral("Left Ctrl + C"));
         keys->click();
@@ -258,11 +259,25 @@ private slots:
         QVERIFY(third->findText(QStringLiteral("#")) < 0 && third->findText(QStringLiteral("undefine")) < 0);
         third->setCurrentText(QStringLiteral("F5"));
         keys->findChild<QComboBox *>(QStringLiteral("key1"))->setCurrentIndex(0);
-        QCOMPARE(editor.steps(), Steps({step(2, QDir::toNativeSeparators(QStringLiteral("/tmp/a b"))),
-                                        step(3, QStringLiteral("http://a")), step(15, QStringLiteral("x\ny")),
-                                        step(16, QStringLiteral("C#F5")), step(100)}));
+        QCOMPARE(editor.steps(),
+                 Steps({step(2, QDir::toNativeSeparators(QStringLiteral("/tmp/a b"))),
+                        step(3, QStringLiteral("http://a")), step(15, QStringLiteral("x\ny\n")),
+                        step(16, QStringLiteral("C#F5")), step(100)}));
         QTest::keyClick(text, Qt::Key_Z, Qt::ControlModifier); // the list's undo, also from within a field
         QCOMPARE(editor.steps().at(3).url, QStringLiteral("Left Ctrl#undefine#C#"));
+    }
+
+    void stepsMayGoWhileAFileIsChosen()
+    {
+        Editor editor({step(2), step(2)});
+        FileDialog::setAnswer([&](const QString &) { // the panel is read
+            editor.widget.steps().load({step(5)});
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            return QStringList(QStringLiteral("/tmp/a"));
+        });
+        editor.part<QToolButton>(1, "choose")->click();
+        FileDialog::setAnswer({});
+        QCOMPARE(editor.steps(), Steps({step(5)}));
     }
 
     void delaysHaveBounds()

@@ -10,12 +10,14 @@
 #include "ui_editor/multiactionwidget.h"
 
 #include <QClipboard>
+#include <QComboBox>
 #include <QDrag>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMimeData>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QToolButton>
 
 using vorlinmodel::key_id_t;
@@ -491,6 +493,10 @@ private slots:
         filter->setText(QString()); // which leaves it nothing to undo
         fixture.keys("Ctrl+Z");
         QCOMPARE(fixture.fid({1, 1, 2}), Play);
+        fixture.keys("Ctrl+Shift+Z");
+        fixture.page->findChild<QSpinBox *>(QStringLiteral("titleSize"))->setFocus();
+        fixture.keys("Ctrl+Z");
+        QCOMPARE(fixture.fid({1, 1, 2}), Play);
     }
 
     void putsAKeyOnEveryPage()
@@ -559,6 +565,53 @@ private slots:
         QTest::keyClick(filter, Qt::Key_Down);
         QTest::keyClick(fixture.list(), Qt::Key_Return);
         QCOMPARE(fixture.fid({1, 1, 11}), 8);
+        filter->setText(QStringLiteral("track")); // none
+        QTest::keyClick(filter, Qt::Key_Return);
+        filter->setText(QStringLiteral("volume")); // two
+        QTest::keyClick(filter, Qt::Key_Return);
+        QCOMPARE(fixture.fid({1, 1, 11}), 8);
+        filter->setText(QStringLiteral("timer")); // not outside multiple actions
+        QTest::keyClick(filter, Qt::Key_Return);
+        filter->setText(QStringLiteral("volume down"));
+        QTest::keyClick(filter, Qt::Key_Return);
+        QCOMPARE(fixture.fid({1, 1, 11}), 7);
+    }
+
+    void attributesFollowTheCurrentKey()
+    {
+        PageFixture fixture(withKeys({{{1, 1, 1}, Play}, {{1, 1, 2}, 6}, {{1, 1, 7}, 16}}));
+        const auto *header = fixture.page->findChild<QLabel *>(QStringLiteral("attributeHeader"));
+        fixture.select(1);
+        fixture.keys("Right");
+        QCOMPARE(header->text(), QStringLiteral("Key 2: Increase The Volume"));
+        QTest::mouseClick(fixture.cell(1), Qt::LeftButton, Qt::ControlModifier);
+        QCOMPARE(header->text(), QStringLiteral("Key 1: Playing/Pausing"));
+        QTest::mouseClick(fixture.cell(1), Qt::LeftButton, Qt::ControlModifier); // not selected any more
+        QCOMPARE(header->text(), QStringLiteral("Key 2: Increase The Volume"));
+        fixture.cell(9)->takeFunction(8); // as a drop does
+        QCOMPARE(header->text(), QStringLiteral("Key 9: Mute"));
+        QCOMPARE(fixture.grid()->currentKey().kid, 9);
+        fixture.cell(2)->onDeleteActionHandler();
+        QCOMPARE(header->text(), QStringLiteral("Key 9: Mute"));
+        QCOMPARE(fixture.editor().edits.history().count(), 2);
+        fixture.select(7);
+        auto *name = fixture.page->findChild<QComboBox *>(QStringLiteral("keyName1"));
+        name->setFocus();
+        QTest::keyClicks(name, QStringLiteral("f5"));
+        fixture.press("page2"); // leaves the focus where it is
+        QCOMPARE(fixture.store.getKeyAttribute({1, 1, 7})->strAppOrUrl, QStringLiteral("F5"));
+    }
+
+    void tabGoesFromTheToolsToTheKeys()
+    {
+        PageFixture fixture(withKeys({{{1, 2, 1}, Play}}));
+        fixture.press("page2"); // built after all the rest
+        fixture.page->findChild<QWidget *>(QStringLiteral("everypage"))->setFocus();
+        QTest::keyClick(fixture.window.focusWidget(), Qt::Key_Tab);
+        QCOMPARE(fixture.window.focusWidget(), fixture.cell(1));
+        fixture.cell(15)->setFocus();
+        QTest::keyClick(fixture.window.focusWidget(), Qt::Key_Tab);
+        QCOMPARE(fixture.window.focusWidget()->objectName(), QStringLiteral("prevPage"));
     }
 
     void dragsAFunction()

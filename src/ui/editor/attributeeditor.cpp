@@ -95,6 +95,8 @@ void AttributeEditor::showKey(const key_id_t &key)
 {
     if (!mpFields)
         return;
+    if (key != mKey)
+        mpContent->commit(); // may be an edit, in whose course we are called
     if (key != mKey) {
         mpNotice->clear();
         noteUnsent();
@@ -130,6 +132,12 @@ void AttributeEditor::focusTitle()
 {
     if (mFid != 0)
         mpTitle->focusTitle();
+}
+
+void AttributeEditor::setCompact(bool compact)
+{
+    mpPages->setVisible(!compact);
+    setMaximumHeight(compact ? sizeHint().height() : QWIDGETSIZE_MAX);
 }
 
 void AttributeEditor::retranslate()

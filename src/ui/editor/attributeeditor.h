@@ -22,8 +22,11 @@ public:
 
     bool setup();                                   ///< @return false when it cannot be built
     void showKey(const vorlinmodel::key_id_t &key); ///< key id 0: none
+    vorlinmodel::key_id_t key() const { return mKey; }
     void refresh(); ///< the key was changed elsewhere; what the person is typing is left alone
     void focusTitle();
+    /// Only the header: the room below is needed for the steps of multiple actions.
+    void setCompact(bool compact);
     void retranslate();
 
 public slots:

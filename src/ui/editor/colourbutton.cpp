@@ -90,6 +90,13 @@ void ColourButton::setColour(const QColor &colour)
     setAccessibleDescription(shown.name());
 }
 
+void ColourButton::cancel()
+{
+    mpPalette->hide();
+    for (auto *dialog : findChildren<QColorDialog *>())
+        dialog->reject();
+}
+
 void ColourButton::retranslate()
 {
     setAccessibleName(tr("Title colour"));

@@ -14,6 +14,7 @@ public:
     explicit ColourButton(QWidget *parent);
 
     void setColour(const QColor &colour); ///< an invalid one shows as the green that keys begin with
+    void cancel();                        ///< closes what is open for picking
     void retranslate();
 
 signals:

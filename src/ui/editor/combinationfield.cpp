@@ -47,6 +47,7 @@ CombinationField::CombinationField(QWidget *parent)
     : QWidget(parent)
     , mpLabel(new QLabel(this))
     , mpCapture(new KeyCaptureButton(this))
+    , mNames(namesByPlace({}, Places))
 {
     static_assert(Places == KeyCapture::MostKeys);
     mpCapture->setObjectName(QStringLiteral("pressKeys"));
@@ -100,6 +101,12 @@ void CombinationField::showStored(const QString &combination, bool anew)
     mNames = namesByPlace(combination, Places);
     mpCapture->cancel();
     showNames(mNames);
+}
+
+void CombinationField::commit()
+{
+    for (int place = 0; place < Places && !mpCapture->isChecked(); ++place)
+        onTyped(place);
 }
 
 void CombinationField::setLabel(const QString &text)

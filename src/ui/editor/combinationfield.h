@@ -19,6 +19,7 @@ public:
     /// name that the table lacks is shown as it is.
     void showStored(const QString &combination, bool anew);
     void setLabel(const QString &text);
+    void commit(); ///< takes a name that is typed and not confirmed yet; what is no name gives way
     void retranslate();
 
 signals:

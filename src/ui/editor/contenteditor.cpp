@@ -37,6 +37,12 @@ bool isResource(const QString &path)
     return path.startsWith(QLatin1Char(':'));
 }
 
+bool hasFunction(const KeyEdits &edits, const vorlinmodel::key_id_t &key, int fid)
+{
+    const auto record = edits.store().getKeyAttribute(key);
+    return record && record->mFId == fid;
+}
+
 } // namespace
 
 ContentEditor::ContentEditor(EditorContext &context, QWidget *parent)
@@ -126,6 +132,11 @@ bool ContentEditor::isUnsent() const
     return mpPath->isUnsent() || mpAddress->isUnsent() || mpText->isUnsent();
 }
 
+void ContentEditor::commit()
+{
+    mpKeys->commit();
+}
+
 void ContentEditor::retranslate()
 {
     const vorlindesk::LanguageManager &texts = *mContext.framework.languageManager();
@@ -169,32 +180,38 @@ void ContentEditor::choosePath()
     const vorlindesk::LanguageManager &texts = *mContext.framework.languageManager();
     // Outside Windows, programs have no dot in their names.
     const QString filter = texts.Text(AllFiles).replace(QStringLiteral("*.*"), QStringLiteral("*"));
+    const vorlinmodel::key_id_t key = mKey; // the panel may bring another one into view meanwhile
     const QString path = FileDialog::openFile(this, texts.Text(Open), {}, filter);
     if (!path.isEmpty())
-        setPath(QDir::toNativeSeparators(path));
+        setPath(key, QDir::toNativeSeparators(path));
 }
 
 /// A path that cannot be carried stands in the field like a typed one: marked, and not stored.
-void ContentEditor::setPath(const QString &path)
+void ContentEditor::setPath(const vorlinmodel::key_id_t &key, const QString &path)
 {
+    constexpr int fid = vorlinmodel::OPEN_FILE_FID;
     KeyEdits &edits = mContext.edits;
+    if (!hasFunction(edits, key, fid))
+        return;
     if (TextLimit::check(path, TextLimit::Encoding::Gbk).fits()) {
-        edits.change(tr("Path"), {mKey}, [&] {
-            edits.store().setUrlOrPath(mKey, path);
-            edits.send(mKey, mFid, *contentAttribute(mFid));
+        edits.change(tr("Path"), {key}, [&] {
+            edits.store().setUrlOrPath(key, path);
+            edits.send(key, fid, *contentAttribute(fid));
         });
     }
-    mpPath->type(path);
+    if (key == mKey)
+        mpPath->type(path);
 }
 
 void ContentEditor::chooseVideo()
 {
     const vorlindesk::LanguageManager &texts = *mContext.framework.languageManager();
     const QString filter = QStringLiteral("%1 (%2)").arg(texts.Text(Video), PictureEdits::videoPattern());
+    const vorlinmodel::key_id_t key = mKey; // the panel may bring another one into view meanwhile
     const QString path = FileDialog::openFile(this, texts.Text(VideoText).trimmed(), {}, filter);
     if (path.isEmpty())
         return;
-    const QString problem = PictureEdits::setVideo(mContext, mKey, path);
+    const QString problem = PictureEdits::setVideo(mContext, key, path);
     if (!problem.isEmpty())
         MessageBox::warn(this, problem);
 }
@@ -214,6 +231,8 @@ void ContentEditor::onTyped(const QString &text)
 void ContentEditor::onKeys(const QStringList &names)
 {
     KeyEdits &edits = mContext.edits;
+    if (!hasFunction(edits, mKey, mFid)) // the key was cleared while they were typed
+        return;
     edits.change(tr("Key combination"), {mKey}, [&] {
         edits.store().setKeyCombination(mKey, names);
         edits.send(mKey, mFid, *contentAttribute(mFid));

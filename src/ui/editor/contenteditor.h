@@ -24,6 +24,7 @@ public:
     /// person's typing.
     void showKey(const vorlinmodel::key_id_t &key, const vorlinmodel::key_atttribute_t &record, bool anew);
     bool isUnsent() const; ///< the field has a content that the panel cannot carry
+    void commit();         ///< the key is left: takes what is typed and not confirmed yet
     void retranslate();
 
 private:
@@ -33,7 +34,7 @@ private:
     void choosePath();
     void chooseVideo();
     void onTyped(const QString &text);
-    void setPath(const QString &path);
+    void setPath(const vorlinmodel::key_id_t &key, const QString &path);
     void onKeys(const QStringList &names);
     QString explanation(int fid) const;
 

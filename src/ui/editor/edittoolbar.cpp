@@ -44,7 +44,8 @@ QIcon toolIcon(const char *name)
     const QString path = QStringLiteral(":/icon/edit/%1").arg(QLatin1String(name));
     QIcon icon(path + QLatin1String(".png"));
     for (const int ratio : {1, 2}) {
-        const QImage drawn(path + QLatin1String(ratio == 1 ? ".png" : "@2x.png"));
+        QImage drawn(path + QLatin1String(ratio == 1 ? ".png" : "@2x.png"));
+        drawn.setDevicePixelRatio(1); // pixel by pixel, whatever the name says
         QPixmap faded(drawn.size());
         faded.fill(Qt::transparent);
         QPainter painter(&faded);
@@ -91,6 +92,11 @@ void EditToolBar::addTool(Tool tool, const char *icon)
     layout()->addWidget(button);
     mActions.append(action);
     mButtons.append(button);
+}
+
+QWidget *EditToolBar::lastButton() const
+{
+    return mButtons.last();
 }
 
 void EditToolBar::setHistoryOn(bool on)

@@ -24,6 +24,8 @@ public:
     /// The action of a tool, with its shortcut. It works where the owner adds it (QWidget::addAction).
     QAction *action(Tool tool) const { return mActions[tool]; }
 
+    QWidget *lastButton() const; ///< in the order of the Tab key
+
     /// Undo and redo are off while @p on is false, whatever there is in the history.
     void setHistoryOn(bool on);
     void retranslate();

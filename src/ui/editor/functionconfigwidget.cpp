@@ -129,6 +129,7 @@ bool FunctionConfigWidget::setupBtnLayoutFrame()
 bool FunctionConfigWidget::setupAttrFrame()
 {
     mpAttributes = new AttributeEditor(mContext, this);
+    connect(&mContext.edits, &KeyEdits::sigKeysChanged, this, &FunctionConfigWidget::alignSelection);
     return mpAttributes->setup();
 }
 
@@ -163,14 +164,14 @@ void FunctionConfigWidget::arrange()
     views->addWidget(mpNotice);
     views->addWidget(mpKeysView, 1);
     views->addWidget(mpMultiActions, 1);
-    auto *splitter = new QSplitter(Qt::Vertical, this);
-    splitter->setObjectName(QStringLiteral("splitter"));
-    splitter->setChildrenCollapsible(false);
-    splitter->addWidget(upper);
-    splitter->addWidget(mpAttributes);
-    splitter->setStretchFactor(0, 3);
-    splitter->setStretchFactor(1, 1);
-    splitter->setSizes({KeysHeight, AttributesHeight}); // of a window of 1024 x 640
+    mpSplitter = new QSplitter(Qt::Vertical, this);
+    mpSplitter->setObjectName(QStringLiteral("splitter"));
+    mpSplitter->setChildrenCollapsible(false);
+    mpSplitter->addWidget(upper);
+    mpSplitter->addWidget(mpAttributes);
+    mpSplitter->setStretchFactor(0, 6);
+    mpSplitter->setStretchFactor(1, 1);
+    mpSplitter->setSizes({KeysHeight, AttributesHeight}); // of a window of 1024 x 640
 
     auto *list = new QWidget(this);
     list->setMinimumWidth(ListMinimum);
@@ -183,7 +184,7 @@ void FunctionConfigWidget::arrange()
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(8, 8, 8, 8);
     layout->setSpacing(8);
-    layout->addWidget(splitter, 4);
+    layout->addWidget(mpSplitter, 4);
     layout->addWidget(list, 1);
 }
 

@@ -20,6 +20,7 @@ class NoticeBar;
 class PageNavigation;
 class QAbstractButton;
 class QLabel;
+class QSplitter;
 struct EditorContext;
 
 namespace MessageBox {
@@ -83,6 +84,9 @@ private:
     void addFrame(int layoutId);
     void removeFrame(int layoutId);
     void dropGrids(KeyboardFrame &frame);
+    void connectGrid(KeyboardWidget *grid);
+    void chainTabs(const KeyboardWidget &grid);
+    void alignSelection();
     QString layoutName(const KeyboardFrame &frame) const;
 
     KeyboardFrame *frameOf(int layoutId);
@@ -107,7 +111,8 @@ private:
     int mCurLayoutId = 1;
     int mCurPageId = 1;
     const int mMaxPage = vorlinmodel::MaxPage;
-    int mChildPageKeyId = 1; ///< of the child-page key last opened
+    bool mIsKeyTouched = false; ///< the attributes went to a key that may not be the current one
+    int mChildPageKeyId = 1;    ///< of the child-page key last opened
     bool isFuncListForMultiAction = false;
     std::vector<KeyboardFrame> mKeyboardList; ///< in the order of their buttons; the standard layout first
     QMessageBox::StandardButton mAnswer = QMessageBox::Cancel;
@@ -123,4 +128,6 @@ private:
     KeyCommands *mpCommands = nullptr;
     AttributeEditor *mpAttributes = nullptr;
     MultiActionWidget *mpMultiActions = nullptr;
+    QSplitter *mpSplitter = nullptr;
+    QList<int> mSplitterSizes; ///< before the multi-action editor was opened
 };

@@ -3,7 +3,9 @@
 
 #include "functionlist.h"
 
+#include <QAbstractSpinBox>
 #include <QApplication>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,15 +16,25 @@ namespace {
 constexpr char BrightHint[] = "color: rgb(255, 255, 255);background-color: transparent;";
 constexpr char DimHint[] = "color: rgb(160, 160, 160);background-color: transparent;";
 
+/// The line into which a widget with the focus lets the person type; null when it has none.
+const QLineEdit *lineOf(const QObject *widget)
+{
+    if (const auto *box = qobject_cast<const QComboBox *>(widget))
+        return box->lineEdit();
+    if (qobject_cast<const QAbstractSpinBox *>(widget))
+        return widget->findChild<QLineEdit *>();
+    return qobject_cast<const QLineEdit *>(widget);
+}
+
 bool isTextField(const QWidget *widget)
 {
-    return qobject_cast<const QLineEdit *>(widget) || qobject_cast<const QPlainTextEdit *>(widget);
+    return lineOf(widget) || qobject_cast<const QPlainTextEdit *>(widget);
 }
 
 /// Whether a text field has something of its own to undo or redo.
 bool hasOwnHistory(const QObject *field, bool undo)
 {
-    if (const auto *line = qobject_cast<const QLineEdit *>(field))
+    if (const QLineEdit *line = lineOf(field))
         return undo ? line->isUndoAvailable() : line->isRedoAvailable();
     if (const auto *text = qobject_cast<const QPlainTextEdit *>(field))
         return undo ? text->document()->isUndoAvailable() : text->document()->isRedoAvailable();

@@ -7,8 +7,10 @@
 #include "base/log.h"
 #include "editorcontext.h"
 #include "editorlogtext.h"
+#include "edittoolbar.h"
 #include "keyboardwidget.h"
 #include "keycommands.h"
+#include "keywidget.h"
 #include "layoutbar.h"
 #include "model/customlayouts.h"
 #include "model/functionids.h"
@@ -66,18 +68,61 @@ KeyboardWidget *FunctionConfigWidget::gridOf(KeyboardFrame &frame, int pageId)
     grid->hide();
     if (!grid->setup(true, false))
         Log(LogLevel::Error, EditorLogText::SetupGridError, frame.nLayoutId, pageId);
+    connectGrid(grid);
+    chainTabs(*grid);
+    return grid;
+}
+
+void FunctionConfigWidget::connectGrid(KeyboardWidget *grid)
+{
     connect(grid, &KeyboardWidget::dataChangeSignal, this,
             [this](const key_id_t &key, int fid, bool isDouble) {
                 if (mpAttributes)
                     mpAttributes->onDataChangeHandler(key, fid, isDouble);
+                mIsKeyTouched = true;
             });
     connect(grid, &KeyboardWidget::dataChangeSignal, this, &FunctionConfigWidget::onKeyBtnClicked);
     connect(grid, &KeyboardWidget::functionTaken, this, [this](const key_id_t &key, int fid) {
         if (fid == vorlinmodel::CHILDREN_PAGE_FID)
             mpCommands->completeChildPage(key);
     });
-    connect(grid, &KeyboardWidget::editTitleRequested, this, [this] { mpAttributes->focusTitle(); });
-    return grid;
+    connect(grid, &KeyboardWidget::selectionChanged, this, [this, grid] {
+        mIsKeyTouched = false;
+        if (mpAttributes && grid == mpGridArea->grid())
+            mpAttributes->showKey(grid->currentKey());
+    });
+    connect(grid, &KeyboardWidget::editTitleRequested, this, [this](const key_id_t &key) {
+        mpAttributes->showKey(key);
+        mpAttributes->focusTitle();
+    });
+}
+
+/// Grids are built when they are needed, which would put them behind everything else.
+void FunctionConfigWidget::chainTabs(const KeyboardWidget &grid)
+{
+    QWidget *previous = mpTools->lastButton();
+    for (KeyWidget *cell : grid.cells()) {
+        if (cell->focusPolicy() == Qt::NoFocus)
+            continue;
+        setTabOrder(previous, cell);
+        previous = cell;
+    }
+}
+
+/// A drop may give a function to another key than the current one, and the menu of a key may delete it.
+void FunctionConfigWidget::alignSelection()
+{
+    KeyboardWidget *grid = mpGridArea->grid();
+    const key_id_t shown = mpAttributes->key();
+    if (!std::exchange(mIsKeyTouched, false) || !grid || isFuncListForMultiAction ||
+        shown == grid->currentKey())
+        return;
+    const bool isOnGrid = shown.lid == grid->layoutId() && shown.pageid == grid->pageId();
+    const KeyWidget *cell = isOnGrid ? grid->cell(shown.kid) : nullptr;
+    if (cell && cell->fid() != 0)
+        grid->setCurrentKey(shown.kid); // which shows its attributes
+    else
+        mpAttributes->showKey(grid->currentKey());
 }
 
 void FunctionConfigWidget::makeCurrent(const KeyboardFrame *pFrameData)

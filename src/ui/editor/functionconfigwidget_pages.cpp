@@ -22,6 +22,7 @@
 #include <QAbstractButton>
 #include <QPointer>
 #include <QPushButton>
+#include <QSplitter>
 
 namespace SystemSettings = vorlindesk::SystemSettings;
 using vorlindesk::Log;
@@ -139,6 +140,8 @@ void FunctionConfigWidget::openMultiActions(const key_id_t &key)
     mCurPageId = pFrameData ? pFrameData->nCurPage : FirstPage;
     makeCurrent(nullptr);
     mpKeysView->hide();
+    mSplitterSizes = mpSplitter->sizes();
+    mpAttributes->setCompact(true);
     isFuncListForMultiAction = true;
     mpTools->setHistoryOn(false); // the steps on the screen would not follow
     emit sigmIsFuncListForMultiAction(true);
@@ -153,16 +156,17 @@ void FunctionConfigWidget::onMultiActionWidgetHide(const key_id_t &key_id_, int)
         return;
     isFuncListForMultiAction = false;
     mpMultiActions->hide();
+    mpAttributes->setCompact(false);
+    mpSplitter->setSizes(mSplitterSizes);
     mpKeysView->show();
     mpTools->setHistoryOn(true);
     emit sigmIsFuncListForMultiAction(false);
     refreshFunctionList();
     setKeyboardCurLayoutAndPage(mCurLayoutId, mCurPageId, false); // which the panel never left
-    mpAttributes->onMultiActionItemClicked(key_id_, 0, -1);
     if (KeyboardWidget *grid = mpGridArea->grid()) {
         grid->updateKeyIcon(key_id_); // an empty list has an icon of its own
         grid->setFocus();
-        mpAttributes->showKey(grid->currentKey());
+        mpAttributes->onMultiActionItemClicked(grid->currentKey(), 0, -1);
     }
 }
 
@@ -240,7 +244,7 @@ void FunctionConfigWidget::showStep(const QVector<key_id_t> &keys)
     const auto isInView = [this](const key_id_t &key) {
         return key.lid == mCurLayoutId && key.pageid == mCurPageId;
     };
-    if (keys.isEmpty() || std::any_of(keys.cbegin(), keys.cend(), isInView))
+    if (keys.isEmpty() || std::any_of(keys.cbegin(), keys.cend(), isInView) || !frameOf(keys.first().lid))
         return;
     if (keys.first().pageid == FirstPage)
         setChildrenForm(false);

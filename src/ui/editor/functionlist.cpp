@@ -235,13 +235,24 @@ void FunctionList::filter()
     mpNothingFound->setVisible(!any);
 }
 
+/// Of functions that the filter leaves.
+QVector<int> FunctionList::rowsLeft() const
+{
+    QVector<int> rows;
+    for (int row = 0; row < mpList->count(); ++row) {
+        if (!mpList->item(row)->isHidden() && mpList->item(row)->data(FidRole).toInt() != 0)
+            rows.append(row);
+    }
+    return rows;
+}
+
 void FunctionList::activate(const QListWidgetItem *item)
 {
     if (const int fid = item ? item->data(FidRole).toInt() : 0)
         emit functionActivated(fid);
 }
 
-/// Enter gives the function, also from the filter field when one is left; down goes from the field to the
+/// Enter gives the function, from the filter field when only one is left; down goes from the field to the
 /// list.
 bool FunctionList::eventFilter(QObject *watched, QEvent *event)
 {
@@ -254,18 +265,30 @@ bool FunctionList::eventFilter(QObject *watched, QEvent *event)
         activate(mpList->currentItem());
         return true;
     }
-    if (watched == mpFilter && key == Qt::Key_Escape && !mpFilter->text().isEmpty()) {
+    return (watched == mpFilter && pressInFilter(key)) || QFrame::eventFilter(watched, event);
+}
+
+bool FunctionList::pressInFilter(int key)
+{
+    const QVector<int> rows = rowsLeft();
+    switch (key) {
+    case Qt::Key_Escape:
+        if (mpFilter->text().isEmpty())
+            return false;
         mpFilter->clear();
         return true;
-    }
-    if (watched != mpFilter || key != Qt::Key_Down)
-        return QFrame::eventFilter(watched, event);
-    for (int row = 0; row < mpList->count(); ++row) {
-        if (!mpList->item(row)->isHidden() && mpList->item(row)->data(FidRole).toInt() != 0) {
-            mpList->setCurrentRow(row);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (rows.size() == 1)
+            activate(mpList->item(rows.first()));
+        return true;
+    case Qt::Key_Down:
+        if (!rows.isEmpty()) {
+            mpList->setCurrentRow(rows.first());
             mpList->setFocus();
-            return true;
         }
+        return true;
+    default:
+        return false;
     }
-    return true;
 }

@@ -39,6 +39,8 @@ protected:
 private:
     void fill();
     void filter();
+    QVector<int> rowsLeft() const;
+    bool pressInFilter(int key); ///< @return whether it means something there
     void activate(const QListWidgetItem *item);
 
     EditorContext &mContext;

@@ -133,7 +133,7 @@ void GalleryFrame::removeSelected()
     question.text = paths.size() == 1
                         ? tr("Delete \"%1\" from the gallery?").arg(QFileInfo(paths.first()).fileName())
                         : tr("Delete %1 pictures from the gallery?").arg(paths.size());
-    question.explanation = tr("Keys that show them keep their pictures.");
+    question.explanation = tr("Keys keep the pictures that they show.");
     question.buttons = QMessageBox::Yes | QMessageBox::No;
     question.preset = QMessageBox::No;
     if (MessageBox::question(this, question) != QMessageBox::Yes)

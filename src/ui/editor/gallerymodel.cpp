@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QIcon>
+#include <QPainter>
 
 namespace {
 
@@ -16,11 +17,25 @@ qint64 modifiedTime(const QString &path)
     return QFileInfo(path).lastModified().toMSecsSinceEpoch();
 }
 
+/// The view gives all items one size, so all thumbnails have one. An icon stays as small as it is.
+QPixmap square(QImage image)
+{
+    constexpr QSize size(GalleryModel::ThumbnailSide, GalleryModel::ThumbnailSide);
+    if (image.width() > size.width() || image.height() > size.height())
+        image = image.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    QPixmap result(size);
+    result.fill(Qt::transparent);
+    QPainter painter(&result);
+    painter.drawImage((size.width() - image.width()) / 2, (size.height() - image.height()) / 2, image);
+    return result;
+}
+
 } // namespace
 
 GalleryModel::GalleryModel(QObject *parent)
     : QAbstractListModel(parent)
     , mThumbnails(CachedThumbnails)
+    , mPlaceholder(square({}))
 {
     // One picture per turn of the event loop: a folder full of photographs must not freeze the window.
     mTimer.setSingleShot(true);
@@ -71,7 +86,7 @@ QVariant GalleryModel::data(const QModelIndex &index, int role) const
     if (const Thumbnail *thumbnail = mThumbnails.object(path))
         return QIcon(thumbnail->pixmap);
     want(path);
-    return {};
+    return QIcon(mPlaceholder);
 }
 
 void GalleryModel::want(const QString &path) const
@@ -91,8 +106,7 @@ void GalleryModel::makeNext()
     const QModelIndex row = indexOf(path);
     if (!row.isValid())
         return;
-    const QSize side(ThumbnailSide, ThumbnailSide);
-    QImage image = GalleryPictures::read(path, side);
+    const QImage image = GalleryPictures::read(path, {ThumbnailSide, ThumbnailSide});
     if (image.isNull()) { // named like a picture, but none
         beginRemoveRows({}, row.row(), row.row());
         mPaths.removeAt(row.row());
@@ -101,9 +115,7 @@ void GalleryModel::makeNext()
     }
     auto thumbnail = std::make_unique<Thumbnail>();
     thumbnail->modified = modifiedTime(path);
-    if (image.width() > ThumbnailSide || image.height() > ThumbnailSide) // an icon stays as small as it is
-        image = image.scaled(side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    thumbnail->pixmap = QPixmap::fromImage(image);
+    thumbnail->pixmap = square(image);
     mThumbnails.insert(path, thumbnail.release()); // which owns it
     emit dataChanged(row, row, {Qt::DecorationRole});
 }

@@ -38,6 +38,7 @@ private:
 
     QStringList mPaths;
     QCache<QString, Thumbnail> mThumbnails; ///< by path
+    const QPixmap mPlaceholder;             ///< of a thumbnail that is not made yet
     mutable QStringList mWanted;            ///< have been looked at, and are not made yet
     mutable QTimer mTimer;
 };

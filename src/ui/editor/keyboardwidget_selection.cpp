@@ -8,7 +8,6 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <algorithm>
-#include <numeric>
 
 using vorlinmodel::key_id_t;
 
@@ -70,10 +69,13 @@ void KeyboardWidget::setCurrentKey(int keyId)
 
 void KeyboardWidget::selectAll()
 {
-    QVector<int> all(mCells.size());
-    std::iota(all.begin(), all.end(), 0);
+    QVector<int> all;
+    for (int i = 0; i < mCells.size(); ++i) {
+        if (mCells.at(i)->descriptor().mPhyKeyCount > 0)
+            all.append(i);
+    }
     if (!all.isEmpty())
-        select(all, mCurrent != 0 ? mCurrent : mCells.constFirst()->keyId().kid);
+        select(all, mCurrent != 0 ? mCurrent : mCells.at(all.constFirst())->keyId().kid);
 }
 
 void KeyboardWidget::select(const QVector<int> &indexes, int currentKeyId)
@@ -182,10 +184,13 @@ QVector<QRect> KeyboardWidget::places() const
 /// Keys that a cell has no use for itself arrive here.
 void KeyboardWidget::keyPressEvent(QKeyEvent *event)
 {
-    if (!mConnectSignals || mCells.isEmpty())
+    const auto first = std::find_if(mCells.cbegin(), mCells.cend(), [](const KeyWidget *cell) {
+        return cell->descriptor().mPhyKeyCount > 0; // a person can see it
+    });
+    if (!mConnectSignals || first == mCells.cend())
         return QWidget::keyPressEvent(event);
     if (mCurrent == 0)
-        selectAlone(0);
+        setCurrentKey((*first)->keyId().kid);
     if (event->matches(QKeySequence::SelectAll))
         selectAll();
     else if (!walk(event) && !actOnCurrent(event))

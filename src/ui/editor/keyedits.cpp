@@ -2,9 +2,10 @@
 
 #include "base/iframeworkcontext.h"
 #include "keychangecommand.h"
-#include "model/functionids.h"
 #include "model/ifunctionmanager.h"
 #include "protocol/iprotocolthread.h"
+
+#include <algorithm>
 
 namespace SystemSettings = vorlindesk::SystemSettings;
 using vorlinmodel::AttributeId;
@@ -16,15 +17,29 @@ using vorlinmodel::RequestOutcome;
 
 namespace {
 
-QVector<key_id_t> keysOf(const QVector<KeyPlacement> &placements)
+/// A key that is named twice counts where it is named last.
+QVector<KeyPlacement> withoutRepeats(const QVector<KeyPlacement> &placements)
+{
+    QVector<KeyPlacement> result;
+    for (int i = 0; i < placements.size(); ++i) {
+        const key_id_t &key = placements.at(i).key;
+        const bool comesAgain = std::any_of(placements.cbegin() + i + 1, placements.cend(),
+                                            [&key](const KeyPlacement &later) { return later.key == key; });
+        if (!comesAgain)
+            result.append(placements.at(i));
+    }
+    return result;
+}
+
+} // namespace
+
+QVector<key_id_t> placedKeys(const QVector<KeyPlacement> &placements)
 {
     QVector<key_id_t> keys;
     for (const KeyPlacement &placement : placements)
         keys.append(placement.key);
     return keys;
 }
-
-} // namespace
 
 KeyEdits::KeyEdits(vorlindesk::IFrameworkContext &context, QObject *parent)
     : QObject(parent)
@@ -100,9 +115,11 @@ void KeyEdits::push(const QString &text, const States &before)
     QVector<key_id_t> keys;
     const States after = capture(before.keys().toVector());
     for (auto entry = before.cbegin(); entry != before.cend(); ++entry) {
-        const KeyState now = after.value(entry.key());
+        KeyState now = after.value(entry.key());
         if (sameKey(*entry, now))
             continue;
+        if (now.picture == entry->picture)
+            now.picture = entry->picture; // the history holds one copy
         changes.append({entry.key(), *entry, now});
         keys.append(entry.key());
     }
@@ -140,19 +157,19 @@ void KeyEdits::flush()
 
 void KeyEdits::place(const QString &text, const QVector<KeyPlacement> &placements)
 {
-    change(text, keysOf(placements), [this, &placements] { apply(placements); });
+    change(text, placedKeys(placements), [this, &placements] { apply(placements); });
 }
 
-void KeyEdits::apply(const QVector<KeyPlacement> &placements)
+void KeyEdits::apply(const QVector<KeyPlacement> &wanted)
 {
-    States now = capture(keysOf(placements));
+    const QVector<KeyPlacement> placements = withoutRepeats(wanted);
+    const States now = capture(placedKeys(placements));
     writeSteps(placements, now);
     writeChildPages(placements, now);
     for (const KeyPlacement &placement : placements) {
         setRecord(placement, now.value(placement.key));
-        for (const AttributeId attribute : attributesToSend(now.value(placement.key), placement.state))
+        for (const AttributeId attribute : attributesToRestore(now.value(placement.key), placement.state))
             send(placement.key, placement.state.fid(), attribute);
-        now.insert(placement.key, placement.state);
     }
     mFiles.touch();
 }
@@ -231,94 +248,6 @@ void KeyEdits::redo()
 void KeyEdits::applyStep(const QVector<KeyPlacement> &placements)
 {
     apply(placements);
-    emit sigKeysChanged(keysOf(placements));
-    emit sigStepApplied(keysOf(placements));
-}
-
-void KeyEdits::sendPending()
-{
-    flush();
-    for (const key_id_t &key : mPending.keys()) {
-        const PendingEdits::Attributes pending = mPending.attributes(key);
-        const KeyState state = captureKeyState(mStore, key);
-        // After a clear, or under another function, the panel has none of the key's values.
-        const bool anew = !state.record || pending.count(AttributeId::ClearKey) != 0 ||
-                          pending.count(AttributeId::FunctionId) != 0;
-        QVector<AttributeId> attributes = allAttributes(state);
-        if (!anew) {
-            attributes.clear();
-            for (const AttributeId attribute : pending)
-                attributes.append(attribute);
-        }
-        mPending.forget(key); // the requests of now cover all that is pending
-        for (const AttributeId attribute : attributes)
-            send(key, state.fid(), attribute);
-    }
-}
-
-void KeyEdits::beginRead()
-{
-    flush();
-    mFiles.pause();
-    if (mReading) // the read is repeated: what was there before it stays the same
-        return;
-    mReading = true;
-    mBeforeRead = capture(mStore.getKeys().toVector() + mPending.keys());
-}
-
-void KeyEdits::endRead(bool whole, const QVector<key_id_t> &received)
-{
-    if (!mReading)
-        return;
-    mReading = false;
-    keepUntakenEdits();
-    if (whole)
-        removeKeysThatAreGone(received);
-    recordRead();
-    mBeforeRead.clear();
-    mFiles.touch();
-}
-
-/// The read has overwritten them with what the panel still shows.
-void KeyEdits::keepUntakenEdits()
-{
-    QVector<KeyPlacement> placements;
-    for (const key_id_t &key : mPending.keys()) {
-        if (mBeforeRead.contains(key))
-            placements.append({key, mBeforeRead.value(key)});
-    }
-    const States now = capture(keysOf(placements));
-    writeSteps(placements, now);
-    for (const KeyPlacement &placement : placements)
-        setRecord(placement, now.value(placement.key));
-}
-
-void KeyEdits::removeKeysThatAreGone(const QVector<key_id_t> &received)
-{
-    QVector<KeyPlacement> gone;
-    for (const key_id_t &key : mStore.getKeys()) {
-        if (!received.contains(key) && mPending.attributes(key).empty())
-            gone.append({key, {}});
-    }
-    writeSteps(gone, capture(keysOf(gone)));
-    for (const KeyPlacement &placement : gone)
-        mStore.deleteKeyAttribute(placement.key);
-}
-
-void KeyEdits::recordRead()
-{
-    QVector<KeyChange> changes;
-    for (const key_id_t &key : mStore.getKeys()) { // keys that were not there before
-        if (!mBeforeRead.contains(key))
-            mBeforeRead.insert(key, {});
-    }
-    const States after = capture(mBeforeRead.keys().toVector());
-    for (auto entry = mBeforeRead.cbegin(); entry != mBeforeRead.cend(); ++entry) {
-        const KeyState now = after.value(entry.key());
-        if (!sameFunction(*entry, now))
-            changes.append({entry.key(), *entry, now});
-    }
-    if (!changes.isEmpty())
-        mHistory.push(new KeyChangeCommand(*this, tr("Read from the panel"), changes)); // owned by the stack
-    emit sigKeysChanged(mBeforeRead.keys().toVector());
+    emit sigKeysChanged(placedKeys(placements));
+    emit sigStepApplied(placedKeys(placements));
 }

@@ -31,6 +31,9 @@ struct KeyPlacement
     KeyState state;
 };
 
+/// @return the keys of @p placements, in their order.
+QVector<vorlinmodel::key_id_t> placedKeys(const QVector<KeyPlacement> &placements);
+
 /// User-interface thread only. A step of the history is the states of its keys before and after; undo and redo put
 /// one of them back, and send the panel what differs from the present.
 class KeyEdits : public QObject
@@ -74,7 +77,8 @@ public:
     void undo(); ///< flushes first
     void redo();
 
-    /// The panel came: queues what it has not taken.
+    /// The panel came: queues what it has not taken. During a read, which has overwritten it, once that is
+    /// over.
     void sendPending();
 
     /// Around a read of the panel's configuration, which overwrites the store. Edits that the panel has not taken
@@ -116,6 +120,7 @@ private:
     void writeChildPages(const QVector<KeyPlacement> &placements, const States &now);
     void setRecord(const KeyPlacement &placement, const KeyState &now);
     void keepUntakenEdits();
+    void bringPicturesBack();
     void recordRead();
     void removeKeysThatAreGone(const QVector<vorlinmodel::key_id_t> &received);
 
@@ -130,5 +135,6 @@ private:
     QTimer mRestTimer;
     States mBeforeRead;
     bool mReading = false;
+    bool mSendAfterRead = false;
     vorlindesk::HandOver mHandOver;
 };

@@ -62,6 +62,8 @@ QImage KeyFaces::picture(const QString &path)
     if (path.isEmpty())
         return {};
     const QFileInfo file(path);
+    if (!file.isFile()) // opening a pipe would wait for its other end
+        return {};
     const Decoded *known = mPictures.object(path);
     if (known && known->modified == file.lastModified() && known->size == file.size())
         return known->image;

@@ -25,7 +25,7 @@ void drawFocusFrame(QPainter &painter, const QRect &area)
 
 } // namespace
 
-QPixmap roundedKeyPixmap(const QImage &image, const QSize &size)
+QPixmap roundedKeyPixmap(const QImage &image, const QSize &size, qreal scale)
 {
     QPixmap pixmap = QPixmap::fromImage(image.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation));
     QBitmap mask(size);
@@ -33,9 +33,10 @@ QPixmap roundedKeyPixmap(const QImage &image, const QSize &size)
     QPainter painter(&mask);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Qt::color1);
-    painter.drawRoundedRect(mask.rect(), CornerRadius, CornerRadius);
+    painter.drawRoundedRect(mask.rect(), CornerRadius * scale, CornerRadius * scale);
     painter.end();
     pixmap.setMask(mask);
+    pixmap.setDevicePixelRatio(scale);
     return pixmap;
 }
 

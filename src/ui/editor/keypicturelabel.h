@@ -5,8 +5,9 @@
 #include <QPixmap>
 #include <QSize>
 
-/// @p image scaled to @p size (device pixels) and cut to rounded corners.
-QPixmap roundedKeyPixmap(const QImage &image, const QSize &size);
+/// @p image scaled to @p size (device pixels) and cut to rounded corners. @p scale: device pixels in a pixel
+/// of the widgets.
+QPixmap roundedKeyPixmap(const QImage &image, const QSize &size, qreal scale = 1);
 
 /// Draws its pixmap over all of itself. The border of the style sheet would otherwise take a pixel on each
 /// side, and the scaling for it would blur the panel's own pixels.

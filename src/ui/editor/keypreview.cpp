@@ -96,10 +96,28 @@ void KeyPreview::paintEvent(QPaintEvent *)
 
 void KeyPreview::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (!event->mimeData()->hasFormat(GalleryFormat) && draggedFile(*event->mimeData()).isEmpty())
-        return;
-    event->acceptProposedAction();
-    setDropMark(true);
+    setDropMark(takes(*event));
+}
+
+void KeyPreview::dragMoveEvent(QDragMoveEvent *event)
+{
+    takes(*event);
+}
+
+bool KeyPreview::takes(QDropEvent &event) const
+{
+    const bool isGallery = event.mimeData()->hasFormat(GalleryFormat);
+    if (!isGallery && draggedFile(*event.mimeData()).isEmpty()) {
+        event.ignore();
+        return false;
+    }
+    if (isGallery) {
+        event.acceptProposedAction();
+    } else { // a file manager whose files were "moved" here would delete them
+        event.setDropAction(Qt::CopyAction);
+        event.accept();
+    }
+    return true;
 }
 
 void KeyPreview::dragLeaveEvent(QDragLeaveEvent *)
@@ -110,7 +128,8 @@ void KeyPreview::dragLeaveEvent(QDragLeaveEvent *)
 void KeyPreview::dropEvent(QDropEvent *event)
 {
     setDropMark(false);
-    event->acceptProposedAction();
+    if (!takes(*event))
+        return;
     if (event->mimeData()->hasFormat(GalleryFormat))
         dropGalleryEntry(*event->mimeData());
     else

@@ -30,11 +30,13 @@ protected:
     void hideEvent(QHideEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
     void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
 private:
     void startOrStopAnimation();
+    bool takes(QDropEvent &event) const;
     void dropGalleryEntry(const QMimeData &dragged);
     void dropFile(const QString &path);
     bool isVideoKey() const;

@@ -6,6 +6,7 @@
 
 #include <QDataStream>
 #include <QFile>
+#include <algorithm>
 
 using vorlinmodel::AttributeId;
 using vorlinmodel::key_atttribute_t;
@@ -62,6 +63,15 @@ bool samePicture(const KeyState &left, const KeyState &right)
            (a.nDisplayImageType == vorlinmodel::DefaultImage || a.customImage == b.customImage);
 }
 
+/// Each of these travels in one byte.
+bool isSendable(const key_atttribute_t &record)
+{
+    const int values[] = {record.mFId, record.imageEffects, record.nDisplaymode, record.titleAlignment,
+                          record.titleFontSize};
+    return std::all_of(std::begin(values), std::end(values),
+                       [](int value) { return value >= 0 && value <= 255; });
+}
+
 class Attributes
 {
 public:
@@ -96,10 +106,8 @@ QString textOf(const KeyState &state)
 /// addresses empties it for functions that have none of their own.
 void addContent(Attributes &ids, const KeyState &from, const KeyState &to)
 {
-    const AttributeId own = contentAttribute(to.fid()).value_or(AttributeId::AppOrUrl);
-    const AttributeId text = own == AttributeId::MultiActions ? AttributeId::AppOrUrl : own;
     const bool readAnew = from.fid() != to.fid() && !(textOf(from).isEmpty() && textOf(to).isEmpty());
-    ids.addIf(readAnew || textOf(from) != textOf(to), text);
+    ids.addIf(readAnew || textOf(from) != textOf(to), textAttribute(to.fid()));
     ids.addIf(from.steps != to.steps, AttributeId::MultiActions);
 }
 
@@ -196,6 +204,16 @@ QVector<AttributeId> attributesToSend(const KeyState &from, const KeyState &to)
     return ids.ids();
 }
 
+QVector<AttributeId> attributesToRestore(const KeyState &from, const KeyState &to)
+{
+    if (!from.record || !to.record)
+        return attributesToSend(from, to);
+    const bool losesVideo =
+        isVideo(*from.record) && to.fid() == vorlinmodel::VIDEO_FID && !isVideo(*to.record);
+    const bool losesPicture = hasPicture(*from.record) && !hasPicture(*to.record) && !isVideo(*to.record);
+    return losesVideo || losesPicture ? allAttributes(to) : attributesToSend(from, to);
+}
+
 QVector<AttributeId> allAttributes(const KeyState &to)
 {
     return QVector<AttributeId>{AttributeId::ClearKey} + attributesToSend({}, to);
@@ -216,6 +234,12 @@ std::optional<AttributeId> contentAttribute(int fid)
     default:
         return std::nullopt;
     }
+}
+
+AttributeId textAttribute(int fid)
+{
+    const AttributeId own = contentAttribute(fid).value_or(AttributeId::AppOrUrl);
+    return own == AttributeId::MultiActions ? AttributeId::AppOrUrl : own;
 }
 
 QDataStream &operator<<(QDataStream &stream, const KeyState &state)
@@ -245,6 +269,8 @@ QDataStream &operator>>(QDataStream &stream, KeyState &state)
             record.imageEffects >> record.nDisplaymode >> record.strTitle >> record.titleAlignment >>
             record.titleFontSize >> colour >> record.strAppOrUrl;
         record.titleColour = QColor(colour);
+        if (!isSendable(record))
+            stream.setStatus(QDataStream::ReadCorruptData);
         state.record = record;
     }
     qint32 steps = 0;

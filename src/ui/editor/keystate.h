@@ -45,6 +45,10 @@ bool sameKey(const KeyState &left, const KeyState &right);
 /// Attribute ids to send, in order, so that a panel that shows @p from shows @p to.
 QVector<vorlinmodel::AttributeId> attributesToSend(const KeyState &from, const KeyState &to);
 
+/// The same where no other requests follow: a picture or video that the panel alone would keep goes with the
+/// key, which is then made anew.
+QVector<vorlinmodel::AttributeId> attributesToRestore(const KeyState &from, const KeyState &to);
+
 /// All attribute ids that make the key on a panel, whatever it shows now, into @p to: clear, then everything
 /// that is not the default.
 QVector<vorlinmodel::AttributeId> allAttributes(const KeyState &to);
@@ -52,6 +56,9 @@ QVector<vorlinmodel::AttributeId> allAttributes(const KeyState &to);
 /// The attribute id under which the content of a key with @p fid travels: 11, 14, 15 or 17; nothing for functions
 /// without content.
 std::optional<vorlinmodel::AttributeId> contentAttribute(int fid);
+
+/// The attribute id under which the text of a key's record travels: 11, 14 or 17.
+vorlinmodel::AttributeId textAttribute(int fid);
 
 /// The same for a person who does not look at the pictures: what a read of the panel brings back differs in how
 /// pictures are kept.

@@ -75,8 +75,8 @@ bool KeyWidget::setup()
     mpIcon->resize(70, 70);
     mpIcon->setScaledContents(true);
     mpIcon->setAcceptDrops(false);
-    setFocusPolicy(Qt::StrongFocus);
-    if (mEnabled > 0) {
+    if (mEnabled > 0) { // else nobody can see it
+        setFocusPolicy(Qt::StrongFocus);
         setAcceptDrops(true);
         mpMenu = std::make_unique<QMenu>();
         mpMenu->setStyleSheet(QString::fromLatin1(CellStyle::Menu));
@@ -123,9 +123,8 @@ void KeyWidget::updateKeyIcon()
         QPixmap pixmap;
         if (!isEmpty) {
             const QSize panelSize = vorlinmodel::keyPixelSize(mDescriptor.mBitMap);
-            pixmap = roundedKeyPixmap(vorlinmodel::renderKeyFace(face, panelSize, 0, size), size);
+            pixmap = roundedKeyPixmap(vorlinmodel::renderKeyFace(face, panelSize, 0, size), size, scale);
         }
-        pixmap.setDevicePixelRatio(scale);
         mpIcon->setPixmap(pixmap);
         mShown = shown;
     }

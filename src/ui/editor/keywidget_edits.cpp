@@ -126,6 +126,10 @@ void KeyWidget::removeFunction()
     Log(LogLevel::Info, EditorLogText::DeleteKey, fid, key_id_.lid, key_id_.pageid, key_id_.kid);
     mContext.edits.change(tr("Delete"), {key_id_}, [this, fid] {
         mContext.edits.store().deleteKeyAttribute(key_id_);
+        if (fid == vorlinmodel::MULTIPLE_ACTIONS_FID)
+            Log(LogLevel::Info, EditorLogText::DeleteActions, fid);
+        if (fid == vorlinmodel::CHILDREN_PAGE_FID)
+            Log(LogLevel::Info, EditorLogText::DeleteChildPage);
         forgetBelongings(fid);
         mFId = 0;
         mContext.edits.send(key_id_, 0, AttributeId::ClearKey);
@@ -153,7 +157,6 @@ void KeyWidget::forgetBelongings(int fid)
     forgetSteps(fid);
     if (fid != vorlinmodel::CHILDREN_PAGE_FID)
         return;
-    Log(LogLevel::Info, EditorLogText::DeleteChildPage);
     if (key_id_.kid >= vorlinmodel::FirstKeyId && key_id_.kid <= vorlinmodel::LastKeyId)
         mContext.childPages.at(size_t(key_id_.kid)).layoutId = 1;
     vorlindesk::SystemSettings::setHomeLayoutEntries({{key_id_.kid}});
@@ -163,7 +166,6 @@ void KeyWidget::forgetSteps(int fid)
 {
     if (fid != vorlinmodel::MULTIPLE_ACTIONS_FID)
         return;
-    Log(LogLevel::Info, EditorLogText::DeleteActions, fid);
     QString error;
     if (!vorlinmodel::multiActionStore().delActionsByKeyId(key_id_.lid, key_id_.pageid, key_id_.kid, error))
         emit mContext.edits.sigProblem(tr("The multiple actions could not be saved: %1").arg(error));

@@ -156,6 +156,8 @@ void KeyWidget::dropEvent(QDropEvent *event)
     if (holds(mime, DragFormat::FunctionIcon)) {
         vorlindesk::VorlinMimeData pair;
         pair.load(mime, QString::fromLatin1(DragFormat::FunctionIcon));
+        if (pair.strData1.isEmpty() && pair.strData2.isEmpty()) // foreign bytes
+            return event->ignore();
         event->setAccepted(mFId != 0);
         return takePicture(pair.strData1, pair.strData2);
     }

@@ -81,6 +81,7 @@ QPushButton *LayoutBar::addLayout(int layoutId, const QString &name)
     button->setFixedHeight(ButtonHeight);
     button->setStyleSheet(QString::fromLatin1(OtherButton));
     button->installEventFilter(this);
+    setTabOrder(mButtons.isEmpty() ? static_cast<QWidget *>(mpAll) : mButtons.last(), button);
     mButtons.append(button);
     mpRowLayout->addWidget(button);
     button->show();

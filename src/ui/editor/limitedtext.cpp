@@ -143,7 +143,11 @@ QWidget *LimitedText::field() const
 
 QString LimitedText::text() const
 {
-    return mpLine ? mpLine->text() : mpParagraph->toPlainText();
+    if (mpLine)
+        return mpLine->text();
+    if (mEncoding == TextLimit::Encoding::TextOutput)
+        return TextLimit::typedText(*mpParagraph->document());
+    return mpParagraph->toPlainText(); // GBK has no no-break space
 }
 
 void LimitedText::setText(const QString &text)

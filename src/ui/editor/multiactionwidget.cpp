@@ -152,6 +152,8 @@ void MultiActionWidget::retranslate()
     mpPicture->setAccessibleName(language.Text(MultipleActionsTextId));
     mpList->retranslate();
     mSteps.retranslate();
+    if (!mpRunner->isRunning())
+        mTestText.clear(); // it stands in the language before
     showTitle();
     showState();
 }

@@ -26,9 +26,21 @@ std::optional<key_id_t> keyOf(const QString &name)
 {
     static const QRegularExpression pattern(QStringLiteral("^(\\d{1,3})_(\\d{1,3})_(\\d{1,2})$"));
     const auto match = pattern.match(name);
-    if (!match.hasMatch())
-        return std::nullopt;
-    return key_id_t{match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt()};
+    const key_id_t key{match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt()};
+    constexpr int largestLayout = 255; // travels in one byte
+    const bool isKey = key.lid >= 1 && key.lid <= largestLayout && key.pageid >= 1 &&
+                       key.pageid <= vorlinmodel::MaxPage && key.kid >= vorlinmodel::FirstKeyId &&
+                       key.kid <= vorlinmodel::LastKeyId;
+    return isKey ? std::make_optional(key) : std::nullopt;
+}
+
+/// Both carry the picture.
+bool arePictures(AttributeId one, AttributeId other)
+{
+    const auto isPicture = [](AttributeId id) {
+        return id == AttributeId::Image || id == AttributeId::Picture;
+    };
+    return isPicture(one) && isPicture(other);
 }
 
 bool isAttribute(int id)
@@ -71,6 +83,7 @@ void PendingEdits::done(const key_id_t &key, AttributeId attribute, RequestOutco
     case RequestOutcome::Sent:
         if (isLast) // a later request of the same attribute has yet to bring the value of now
             entry.unsent.erase(attribute);
+        forgetWhatIsCovered(entry, attribute);
         if (!entry.unsent.empty())
             return;
         setMark(key, entry, Mark::None, Cause::None);
@@ -82,6 +95,19 @@ void PendingEdits::done(const key_id_t &key, AttributeId attribute, RequestOutco
         return setMark(key, entry, Mark::Failed, Cause::Refused);
     case RequestOutcome::Unreadable:
         return setMark(key, entry, Mark::Failed, Cause::Unreadable);
+    }
+}
+
+/// What the panel has refused before, and has now in another way. Requests under way were posted later: they
+/// count.
+void PendingEdits::forgetWhatIsCovered(Entry &entry, AttributeId taken)
+{
+    for (auto id = entry.unsent.begin(); id != entry.unsent.end();) {
+        const bool isCovered = taken == AttributeId::ClearKey || arePictures(taken, *id);
+        if (isCovered && entry.underWay.count(*id) == 0)
+            id = entry.unsent.erase(id);
+        else
+            ++id;
     }
 }
 
@@ -106,10 +132,17 @@ void PendingEdits::setMark(const key_id_t &key, Entry &entry, Mark mark, Cause c
 /// Long transfers, and requests that wait behind them.
 void PendingEdits::markWhatIsLate()
 {
+    bool areMoreUnderWay = false;
     for (auto &[key, entry] : mEntries) {
-        if (entry.mark == Mark::None)
+        if (entry.mark != Mark::None)
+            continue;
+        if (entry.isLate)
             setMark(key, entry, Mark::Pending, Cause::Late);
+        else
+            areMoreUnderWay = entry.isLate = true; // by the next time
     }
+    if (areMoreUnderWay)
+        mLateTimer.start();
 }
 
 PendingEdits::Mark PendingEdits::mark(const key_id_t &key) const

@@ -61,8 +61,10 @@ private:
         Attributes unsent;                                ///< that the panel has not taken
         Mark mark = Mark::None;
         Cause cause = Cause::None;
+        bool isLate = false; ///< was there when the timer ended last
     };
 
+    void forgetWhatIsCovered(Entry &entry, vorlinmodel::AttributeId taken);
     void setMark(const vorlinmodel::key_id_t &key, Entry &entry, Mark mark, Cause cause);
     void markWhatIsLate();
 

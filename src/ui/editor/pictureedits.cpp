@@ -3,9 +3,10 @@
 #include "base/iframeworkcontext.h"
 #include "editorcontext.h"
 #include "functionlist.h"
+#include "keywidget.h"
 #include "model/functionids.h"
 #include "model/ifunctionmanager.h"
-#include "wire/applicationmessage.h"
+#include "model/videoconversion.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -18,16 +19,7 @@ using vorlinmodel::key_id_t;
 
 namespace {
 
-constexpr qint64 LargestVideo = ApplicationMessage::MaxSize - 64; // room for the head of the message
 constexpr const char *VideoSuffixes[] = {"mp4", "mov", "webm", "gif", "avi"};
-
-/// How long the sending of a video is waited for at most.
-int waitingTimeMs(qint64 bytes)
-{
-    constexpr quint32 bytesPerSecond = 10240;
-    constexpr quint32 leastSeconds = 300;
-    return int((quint32(bytes) / bytesPerSecond + leastSeconds) * 1000);
-}
 
 key_atttribute_t withFunctionIcon(key_atttribute_t record)
 {
@@ -61,7 +53,7 @@ QString videoProblem(const QString &path, QFile &file)
     if (!file.open(QIODevice::ReadOnly))
         return QCoreApplication::translate("PictureEdits", "\"%1\" cannot be opened: %2")
             .arg(name, file.errorString());
-    if (file.size() > LargestVideo) {
+    if (file.size() > vorlinmodel::maxVideoBytes()) {
         return QCoreApplication::translate("PictureEdits",
                                            "\"%1\" has %2 MB. The panel takes videos of up to 10 MB.")
             .arg(name, QString::number(double(file.size()) / bytesPerMegabyte, 'f', 1));
@@ -103,7 +95,7 @@ QString PictureEdits::setVideo(EditorContext &context, const key_id_t &key, cons
             store.setCustomImage(key, picture);
         store.setCustomVideo(key, path);
         context.framework.showWaitingDialog(int(vorlinmodel::RequestKind::MD_FUNCTION_CODE_KEY_ATTRIBUTE),
-                                            waitingTimeMs(file.size()));
+                                            int(videoWaitingTime(file.size())));
         context.edits.send(key, record->mFId, AttributeId::Video);
     });
     return {};

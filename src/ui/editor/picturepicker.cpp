@@ -85,9 +85,10 @@ void PicturePicker::choose()
 {
     const vorlindesk::LanguageManager &texts = *mContext.framework.languageManager();
     const QString filter = QStringLiteral("%1 (%2)").arg(texts.Text(Picture), PictureEdits::picturePattern());
+    const vorlinmodel::key_id_t key = mKey; // the panel may bring another one into view meanwhile
     const QString path = FileDialog::openFile(this, texts.Text(SelectPicture), {}, filter);
     if (!path.isEmpty())
-        report(PictureEdits::setPicture(mContext, mKey, path));
+        report(PictureEdits::setPicture(mContext, key, path));
 }
 
 void PicturePicker::report(const QString &problem)

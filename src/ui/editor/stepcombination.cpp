@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QFrame>
 #include <QGridLayout>
+#include <QScreen>
 
 namespace {
 
@@ -46,7 +47,12 @@ void StepCombination::choose()
     for (int place = 0; place < StepContent::MaxKeys; ++place)
         layout->addWidget(makeChoice(popup, place), place / ChoicesPerRow, place % ChoicesPerRow);
     popup->adjustSize();
-    popup->move(mapToGlobal(QPoint(0, height())));
+    QPoint place = mapToGlobal(QPoint(0, height()));
+    const QRect area = screen()->availableGeometry();
+    if (place.y() + popup->height() > area.bottom()) // above the button where the screen ends
+        place.setY(mapToGlobal(QPoint()).y() - popup->height());
+    place.setX(qMin(place.x(), area.right() - popup->width()));
+    popup->move(place);
     popup->show();
     if (auto *first = popup->findChild<QComboBox *>(QStringLiteral("key1")))
         first->setFocus();

@@ -4,6 +4,7 @@
 #include "stepcommands.h"
 #include "stepmodel.h"
 #include "stepstyle.h"
+#include "textlimit.h"
 #include "ui_common/filedialog.h"
 
 #include <QDir>
@@ -13,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QSpinBox>
 #include <QTextDocument>
 #include <QToolButton>
@@ -38,12 +40,6 @@ void nameButton(QToolButton *button, const QString &name)
 {
     button->setAccessibleName(name);
     button->setToolTip(name);
-}
-
-/// Exactly what was typed: the plain text of the toolkit turns no-break spaces into others.
-QString typedText(const QPlainTextEdit &field)
-{
-    return field.document()->toRawText().replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
 }
 
 } // namespace
@@ -140,7 +136,8 @@ QWidget *StepRow::makeText()
     text->document()->setDocumentMargin(TextMargin);
     text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     text->viewport()->installEventFilter(this);
-    connect(text, &QPlainTextEdit::textChanged, this, [this, text] { edit(typedText(*text)); });
+    connect(text, &QPlainTextEdit::textChanged, this,
+            [this, text] { edit(TextLimit::typedText(*text->document())); });
     return text;
 }
 
@@ -180,10 +177,11 @@ void StepRow::chooseFile()
 {
     const QString folder = QFileInfo(content()).absolutePath();
     // Programs have names without a dot here, which "*.*" would hide.
-    const QString path = FileDialog::openFile(this, tr("Choose the file to open"),
+    const QPointer<StepRow> self(this); // other steps may come while the dialog is open
+    const QString path = FileDialog::openFile(window(), tr("Choose the file to open"),
                                               content().isEmpty() ? QDir::homePath() : folder,
                                               tr("All files") + QStringLiteral(" (*)"));
-    if (!path.isEmpty())
+    if (self && !path.isEmpty())
         edit(QDir::toNativeSeparators(path));
 }
 
@@ -204,7 +202,7 @@ void StepRow::showContent()
         }
         line->setToolTip(content().toHtmlEscaped());
     } else if (auto *text = qobject_cast<QPlainTextEdit *>(mpContent)) {
-        if (typedText(*text) != content())
+        if (TextLimit::typedText(*text->document()) != content())
             text->setPlainText(content());
     } else if (auto *delay = qobject_cast<QSpinBox *>(mpContent)) {
         delay->setSuffix(QLatin1Char(' ') + tr("ms"));

@@ -58,17 +58,32 @@ StoreFiles::~StoreFiles()
 bool StoreFiles::load()
 {
     const bool records = vorlinmodel::loadAllKeyData(mStore);
-    removeUnusedPictures(mStore);
+    if (records) // else their names may be in the file that is kept aside
+        removeUnusedPictures(mStore);
     return mPending.load() && records;
 }
 
 void StoreFiles::touch()
 {
     mDirty = true;
-    mTimer.start();
+    if (!mPaused)
+        mTimer.start();
 }
 
 void StoreFiles::pause()
+{
+    mPaused = true;
+    stopSaving();
+}
+
+void StoreFiles::resume()
+{
+    mPaused = false;
+    if (mDirty)
+        mTimer.start();
+}
+
+void StoreFiles::stopSaving()
 {
     mTimer.stop();
     join();
@@ -76,7 +91,7 @@ void StoreFiles::pause()
 
 bool StoreFiles::saveNow()
 {
-    pause();
+    stopSaving();
     mDirty = false;
     const bool pending = mPending.save();
     return mStore.saveAllKeyData() && pending;

@@ -26,9 +26,10 @@ public:
     /// Reads records and pending edits. @return false when a file cannot be read (it is kept aside).
     bool load();
     void touch(); ///< something changed: saved after the rest
-    /// Waits for a writing that is under way, and drops one that is due: the panel is about to be read, which empties
-    /// the folder with the pictures. touch() afterwards.
+    /// Waits for a writing that is under way, and holds back what is due until resume(): the panel is about
+    /// to be read, which empties the folder with the pictures, and a writing meanwhile would remove new ones.
     void pause();
+    void resume();  ///< what was held back is saved after the rest
     bool saveNow(); ///< and waits for it. @return false when a file could not be written
 
     /// Writes a picture under a name that its content gives it. @return the path; empty when it could not be written.
@@ -39,12 +40,14 @@ signals:
 
 private:
     void startSaving();
+    void stopSaving();
     void join();
 
     vorlinmodel::IFunctionManager &mStore;
     PendingEdits &mPending;
     QTimer mTimer;
     bool mDirty = false;
+    bool mPaused = false;
     std::thread mThread;
     vorlindesk::HandOver mHandOver;
 };

@@ -4,6 +4,7 @@
 #include "wire/textcodec.h"
 
 #include <QStringList>
+#include <QTextDocument>
 #include <QVector>
 
 namespace TextLimit {
@@ -33,6 +34,14 @@ Check check(const QString &text, Encoding encoding)
     if (encoding == Encoding::TextOutput)
         return {TextCodec::toOutput(text).size(), {}};
     return {TextCodec::toGbk(text).size(), TextCodec::charactersNotInGbk(text)};
+}
+
+QString typedText(const QTextDocument &document)
+{
+    // Shift+Enter makes the other separator, which no program that gets the text would take for a line end.
+    return document.toRawText()
+        .replace(QChar::ParagraphSeparator, QLatin1Char('\n'))
+        .replace(QChar::LineSeparator, QLatin1Char('\n'));
 }
 
 QString nameCharacters(const QString &lacking)

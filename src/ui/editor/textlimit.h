@@ -3,6 +3,8 @@
 
 #include <QString>
 
+class QTextDocument;
+
 namespace TextLimit {
 
 constexpr int MaxBytes = 128; ///< of a title or content: the area that the panel's record of a key has for it
@@ -25,5 +27,9 @@ Check check(const QString &text, Encoding encoding);
 /// The characters of @p lacking for a sentence: blank-separated, those without a shape of their own by number
 /// ("U+200D"); of more than eight only the first.
 QString nameCharacters(const QString &lacking);
+
+/// Exactly what was typed, lines ended by "\n": the plain text of the toolkit turns no-break spaces into
+/// others.
+QString typedText(const QTextDocument &document);
 
 } // namespace TextLimit

@@ -112,6 +112,8 @@ void TitleEditor::buildLayout()
 void TitleEditor::showKey(const vorlinmodel::key_id_t &key, const vorlinmodel::key_atttribute_t &record,
                           bool anew)
 {
+    if (anew)
+        mpColour->cancel(); // it was to be the colour of another key
     mKey = key;
     mpTitle->showStored(record.strTitle, anew);
     showSize(shownSize(record.titleFontSize));
