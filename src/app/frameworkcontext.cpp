@@ -59,6 +59,11 @@ bool FrameworkContext::start(int &argc, char **argv, const QString &dataDir)
     // start.
     if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
         qputenv("QT_XCB_GL_INTEGRATION", "none");
+    // Sizes are given in pixels of a plain screen; pictures are drawn with all that a dense one has.
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::RoundPreferFloor);
     mpApplication = std::make_unique<QApplication>(argc, argv);
     quitOnTerminationSignals(mpApplication.get());
     const QImage icon = knownPicture(QStringLiteral(":/icon/MENU_ZX_LOGO.bmp"), "BMP");

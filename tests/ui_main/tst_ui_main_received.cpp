@@ -10,9 +10,15 @@ namespace {
 
 struct Recorder : IReceivedData
 {
-    void onPageReceived(int layoutId, int pageId, int keyCount, bool first) override
+    void onPageReceived(const ReceivedPage &page) override
     {
-        calls << QStringLiteral("page %1 %2 %3 %4").arg(layoutId).arg(pageId).arg(keyCount).arg(first);
+        calls << QStringLiteral("page %1 %2 %3 %4")
+                     .arg(page.layoutId)
+                     .arg(page.pageId)
+                     .arg(page.keyCount)
+                     .arg(page.first);
+        for (const vorlinmodel::key_id_t &key : page.keys)
+            calls.last() += QStringLiteral(" %1.%2.%3").arg(key.lid).arg(key.pageid).arg(key.kid);
     }
     void onRecordReceived(int total, int received) override
     {
@@ -109,7 +115,7 @@ private slots:
     {
         QCOMPARE(handle({PanelMessage::page(1, 2, 2), PanelMessage::picture(1, 2, 3),
                          PanelMessage::message(8, QByteArray::fromHex("0307"))}),
-                 QStringList({QStringLiteral("page 1 2 2 0"), QStringLiteral("record 2 1"),
+                 QStringList({QStringLiteral("page 1 2 2 0 1.2.1 1.2.2"), QStringLiteral("record 2 1"),
                               QStringLiteral("page 3 7 0 0"), QStringLiteral("complete")}));
         QCOMPARE(mStore.getReceivedCounts().total, 0);
         QCOMPARE(mStore.getReceivedCounts().current, 0);

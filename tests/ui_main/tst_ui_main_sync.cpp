@@ -1,6 +1,9 @@
 // The main window and the panel: asking for the version, reading the configuration, polling, coming back.
 #include "base/systemsettings.h"
 #include "ui_common/messagebox.h"
+#include "ui_editor/editorcontext.h"
+#include "ui_editor/functionconfigwidget.h"
+#include "ui_main/mainframe.h"
 #include "ui_main/waitingspinnerwidget.h"
 #include "ui_main/widget.h"
 #include "uimainfakes.h"
@@ -44,15 +47,35 @@ class tst_ui_main_sync : public QObject
         return mpWidget->findChild<QLabel *>(QString::fromLatin1(name))->text();
     }
     WaitingSpinnerWidget *spinner() const { return mpWidget->findChild<WaitingSpinnerWidget *>(); }
+    FunctionConfigWidget *editor() const { return mpWidget->findChild<FunctionConfigWidget *>(); }
+    QString brightness() const { return mpWidget->findChild<MainFrame *>()->deviceValue(16); }
     void receive(const QByteArray &message) { mpContext->thread.receive(message); }
 
     /// Lets everything through that has been received: the workers end in order, so the version ends last.
     void settle()
     {
         receive(PanelMessage::message(16, QByteArrayLiteral("\x00\x2A")));
-        QTRY_VERIFY(label("deviceValues").contains(QStringLiteral("42")));
+        QTRY_COMPARE(brightness(), QStringLiteral("42"));
         receive(PanelMessage::message(16, QByteArrayLiteral("\x00\x01")));
-        QTRY_VERIFY(!label("deviceValues").contains(QStringLiteral("42")));
+        QTRY_COMPARE(brightness(), QStringLiteral("1"));
+    }
+
+    /// Does not wait out the second in which another page might come.
+    void hurry() const
+    {
+        QTimer *end = timer("readEndTimer");
+        if (end->isActive() && end->interval() == 1000)
+            end->start(1);
+    }
+    int finished(const char *line) const
+    {
+        hurry();
+        return mpLog->count(line);
+    }
+    bool isEditable() const
+    {
+        hurry();
+        return editor()->isEnabled();
     }
 
     void startReading()
@@ -166,19 +189,19 @@ private slots:
         receive(PanelMessage::hardwareVersion());
         settle();
         startReading();
-        receive(PanelMessage::page(2, 3, 3));
-        receive(PanelMessage::picture(2, 3, 1, pngBytes()));
-        receive(PanelMessage::picture(2, 3, 2));
+        receive(PanelMessage::page(1, 3, 3));
+        receive(PanelMessage::picture(1, 3, 1, pngBytes()));
+        receive(PanelMessage::picture(1, 3, 2));
         QTRY_COMPARE(label("activity"), QStringLiteral("Reading the configuration... 2 of 3 keys"));
         // 10 s, and 1 s for each record that is missing
         QCOMPARE(spinner()->findChild<QTimer *>(QStringLiteral("showTime"))->interval(), 11000);
         QVERIFY(spinner()->isSpinning());
-        receive(PanelMessage::picture(2, 3, 3));
+        receive(PanelMessage::picture(1, 3, 3));
         QTRY_VERIFY(!spinner()->isSpinning());
         QVERIFY(!mpContext->store.getModeFlag());
-        QCOMPARE(label("page"), QStringLiteral("3/16"));
-        QVERIFY(QFileInfo::exists(mpDir->path("devConfig/image/2_3_1.png")));
-        QTRY_COMPARE(mpLog->count("Configuration read: 3 keys on 1 pages"), 1);
+        QCOMPARE(editor()->curPageId(), 3);
+        QVERIFY(QFileInfo::exists(mpDir->path("devConfig/image/1_3_1.png")));
+        QTRY_COMPARE(finished("Configuration read: 3 keys on 1 pages"), 1);
         QCOMPARE(label("activity"), QStringLiteral("Connected"));
         QCOMPARE(mBoxes, QStringList());
     }
@@ -197,10 +220,10 @@ private slots:
             receive(PanelMessage::picture(1, page, 1, pngBytes()));
             receive(PanelMessage::picture(1, page, 2));
         }
-        QTRY_COMPARE(mpLog->count("Configuration read: 4 keys on 2 pages"), 1);
+        QTRY_COMPARE(finished("Configuration read: 4 keys on 2 pages"), 1);
         QCOMPARE(QDir(mpDir->path("devConfig/image")).entryList({QStringLiteral("*.png")}),
                  QStringList({QStringLiteral("1_1_1.png"), QStringLiteral("1_2_1.png")}));
-        QCOMPARE(label("page"), QStringLiteral("1/16"));
+        QCOMPARE(editor()->curPageId(), 1);
     }
 
     void returningPanelIsReadAgain_data()
@@ -210,11 +233,13 @@ private slots:
         QTest::addColumn<bool>("timedOut");
         QTest::addColumn<QStringList>("requests");
         QTest::newRow("in the middle of a read") << true << false << false << ReadRequest;
-        QTest::newRow("after the link was seen to break") << true << true << false << ReadRequest;
-        QTest::newRow("later than the time-out") << true << true << true << ReadRequest;
+        const QStringList pageInView(QStringLiteral("7: 1, 1"));
+        QTest::newRow("after the link was seen to break")
+            << true << true << false << pageInView + ReadRequest;
+        QTest::newRow("later than the time-out") << true << true << true << pageInView + ReadRequest;
         QTest::newRow("after a read that a panel in reach did not answer")
             << true << false << true << QStringList();
-        QTest::newRow("while nothing is read") << false << true << false << QStringList();
+        QTest::newRow("while nothing is read") << false << true << false << pageInView;
     }
 
     void returningPanelIsReadAgain()
@@ -252,11 +277,102 @@ private slots:
         receive(PanelMessage::page(1, 1, 1));
         receive(PanelMessage::picture(1, 1, 1));
         mpContext->thread.sigUsbConnectState(false);
-        QTRY_COMPARE(mpLog->count("Configuration read: 1 keys on 1 pages"), 1);
+        QTRY_COMPARE(finished("Configuration read: 1 keys on 1 pages"), 1);
         QCOMPARE(mpContext->requests, QStringList());
         receive(PanelMessage::softwareVersion());
         settle();
-        QCOMPARE(mpContext->requests, ReadRequest);
+        QCOMPARE(mpContext->requests, QStringList(QStringLiteral("7: 1, 1")) + ReadRequest);
+    }
+
+    /// Else the read would bring back what the person has changed meanwhile.
+    void whatThePanelHasNotTakenIsSentBeforeTheRead()
+    {
+        mpContext->store.createKeyAttribute(1, 1, 2, 6);
+        mpContext->store.setTitle({1, 1, 2}, QStringLiteral("kept"));
+        mpWidget.reset();
+        {
+            EditorContext lastRun(*mpContext);
+            lastRun.edits.send({1, 1, 2}, 6, vorlinmodel::AttributeId::Title);
+            QVERIFY(lastRun.edits.saveNow());
+        }
+        mpContext->requests.clear();
+        mpWidget = std::make_unique<Widget>(*mpContext, mDesktop);
+        receive(PanelMessage::hardwareVersion());
+        settle();
+        mpWidget->slotTimerSyncOut();
+        QCOMPARE(mpContext->requests, QStringList(QStringLiteral("1: 1 1 2, id 6")) + ReadRequest);
+
+        mpContext->thread.sigUsbConnectState(false); // the request is lost with the panel
+        QTRY_COMPARE(label("activity"), QStringLiteral("Looking for the panel..."));
+        mpContext->requests.clear();
+        receive(PanelMessage::softwareVersion());
+        settle();
+        // In the middle of a read the store may hold what the panel shows, so this time it is sent after it.
+        QCOMPARE(mpContext->requests, QStringList(QStringLiteral("7: 1, 1")) + ReadRequest);
+        mpContext->requests.clear();
+        receive(PanelMessage::page(1, 1, 2));
+        receive(PanelMessage::picture(1, 1, 1));
+        receive(PanelMessage::picture(1, 1, 2));
+        QTRY_COMPARE(finished("Configuration read: 2 keys on 1 pages"), 1);
+        QCOMPARE(mpContext->store.getKeyAttribute({1, 1, 2})->strTitle, QStringLiteral("kept"));
+        QCOMPARE(mpContext->store.getKeyAttribute({1, 1, 2})->mFId, 6);
+        QTRY_VERIFY(!mpContext->requests.isEmpty());
+        QCOMPARE(mpContext->requests.last(), QStringLiteral("1: 1 1 2, id 6"));
+    }
+
+    void readReplacesTheKeysAndKeepsTheEditorLockedMeanwhile_data()
+    {
+        QTest::addColumn<bool>("asked");
+        QTest::addColumn<bool>("whole");
+        QTest::addColumn<int>("keysLeft"); // one came, one was there before
+        QTest::newRow("whole") << true << true << 1;
+        QTest::newRow("given up") << true << false << 2;
+        QTest::newRow("page that the panel sends by itself") << false << true << 2;
+    }
+
+    void readReplacesTheKeysAndKeepsTheEditorLockedMeanwhile()
+    {
+        QFETCH(bool, asked);
+        QFETCH(bool, whole);
+        receive(PanelMessage::softwareVersion());
+        settle();
+        mpContext->store.createKeyAttribute(1, 7, 9, 6);
+        if (asked)
+            startReading();
+        receive(PanelMessage::page(1, 1, 1));
+        settle();
+        mpContext->hideWaitingDialog();
+        QVERIFY(!editor()->isEnabled());
+        if (whole)
+            receive(PanelMessage::picture(1, 1, 1));
+        else
+            mpWidget->slogDealRequestId(8);
+        QTRY_VERIFY(isEditable());
+        QTEST(mpContext->store.getKeys().size(), "keysLeft");
+        QCOMPARE(label("activity"),
+                 whole ? QStringLiteral("Connected")
+                       : QStringLiteral("Connected. The configuration was not read to its end."));
+    }
+
+    /// Neither the half-read store nor what the panel still showed may get onto the disk.
+    void leavingInTheMiddleOfAReadKeepsUntakenEdits()
+    {
+        startReading();
+        mpContext->store.createKeyAttribute(1, 1, 1, 6);
+        mpWidget.reset();
+        mpContext->store.setTitle({1, 1, 1}, QStringLiteral("kept"));
+        {
+            EditorContext lastRun(*mpContext);
+            lastRun.edits.send({1, 1, 1}, 6, vorlinmodel::AttributeId::Title);
+            QVERIFY(lastRun.edits.saveNow());
+        }
+        mpWidget = std::make_unique<Widget>(*mpContext, mDesktop);
+        startReading();
+        receive(PanelMessage::page(1, 1, 1));
+        settle();
+        QCOMPARE(mpContext->store.getKeyAttribute({1, 1, 1})->mFId, 5);
+        mpWidget.reset();
+        QCOMPARE(mpContext->store.getKeyAttribute({1, 1, 1})->strTitle, QStringLiteral("kept"));
     }
 
     void answerDecodedAfterTheLinkBrokeDoesNotShowThePanelAsConnected()

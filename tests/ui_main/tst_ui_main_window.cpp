@@ -1,11 +1,13 @@
 // What the main window shows and does for the person: host actions, pages, spinner, set-up.
-#include "ui_main/pageview.h"
+#include "ui_editor/functionconfigwidget.h"
 #include "ui_main/waitingspinnerwidget.h"
 #include "ui_main/widget.h"
+#include "ui_main/windowstate.h"
 #include "uimainfakes.h"
 
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -75,15 +77,14 @@ private slots:
         FakeContext context;
         RecordingDesktop desktop;
         Widget window(context, desktop);
-        auto *next = window.findChild<QPushButton *>(QStringLiteral("nextPage"));
-        auto *previous = window.findChild<QPushButton *>(QStringLiteral("prevPage"));
-        QVERIFY(!previous->isEnabled());
+        auto *editor = window.findChild<FunctionConfigWidget *>();
+        editor->onKeyboardPrevPageButtonClicked();
         for (int page = 2; page <= 16; ++page) {
-            next->click();
+            editor->onKeyboardNextPageButtonClicked();
             QCOMPARE(context.requests.last(), QStringLiteral("7: 1, %1").arg(page));
         }
-        QVERIFY(!next->isEnabled());
-        previous->click();
+        editor->onKeyboardNextPageButtonClicked();
+        editor->onKeyboardPrevPageButtonClicked();
         QCOMPARE(context.requests.last(), QStringLiteral("7: 1, 15"));
         QCOMPARE(context.requests.size(), 16);
     }
@@ -136,57 +137,49 @@ private slots:
         QCOMPARE(timedOut.count(), 1); // what was stopped stays silent
     }
 
-    void keysKeepTheirShapeAndPlace_data()
+    void windowComesBackAsItWasLeft()
     {
-        QTest::addColumn<QSize>("area");
-        QTest::addColumn<int>("keyId");
-        QTest::addColumn<QRect>("place");
-        QTest::newRow("end of the first row") << QSize(514, 284) << 5 << QRect(424, 0, 90, 84);
-        QTest::newRow("second row") << QSize(514, 284) << 6 << QRect(0, 100, 90, 84);
-        QTest::newRow("twice the size") << QSize(1028, 568) << 15 << QRect(848, 400, 180, 168);
-        QTest::newRow("too wide: centred") << QSize(714, 284) << 1 << QRect(100, 0, 90, 84);
-        QTest::newRow("too high: centred") << QSize(514, 384) << 1 << QRect(0, 50, 90, 84);
+        FakeContext context;
+        RecordingDesktop desktop;
+        QRect left;
+        {
+            Widget window(context, desktop);
+            window.setGeometry(30, 20, 700, 560);
+            window.show();
+            left = window.geometry();
+            auto *editor = window.findChild<FunctionConfigWidget *>();
+            for (int page = 2; page <= 4; ++page)
+                editor->onKeyboardNextPageButtonClicked();
+            window.close();
+        }
+        Widget window(context, desktop);
+        QCOMPARE(window.geometry(), left);
+        QCOMPARE(window.findChild<FunctionConfigWidget *>()->curPageId(), 4);
     }
 
-    void keysKeepTheirShapeAndPlace()
+    void stateThatMakesNoSenseIsMended_data()
     {
-        QFETCH(QSize, area);
-        QFETCH(int, keyId);
-        QTEST(keyPreviewRect(area, keyId), "place");
+        QTest::addColumn<int>("layoutId");
+        QTest::addColumn<int>("pageId");
+        QTest::newRow("deleted layout") << 14 << 3;
+        QTest::newRow("page beyond the last") << 1 << 17;
+        QTest::newRow("page before the first") << 1 << 0;
     }
 
-    void pageShowsPicturesAsTheyAreNow()
+    void stateThatMakesNoSenseIsMended()
     {
-        const QString path = mDir.path("picture.png");
-        const auto writePicture = [&path](const QColor &colour, QSize size) {
-            QImage image(size, QImage::Format_RGB32);
-            image.fill(colour);
-            QVERIFY(image.save(path));
-        };
-        QFile video(mDir.path("video.mp4"));
-        QVERIFY(video.open(QIODevice::WriteOnly));
-        video.write(QByteArray(1000, 'x'));
-        video.close();
-        vorlinmodel::FunctionManager store;
-        store.createKeyAttribute(1, 1, 2, 5);
-        store.setCustomImage({1, 1, 2}, path);
-        store.createKeyAttribute(1, 1, 3, 17);
-        store.setCustomVideo({1, 1, 3}, video.fileName());
-        PageView view(store, nullptr);
-        view.resize(514, 284);
-        const auto colourOf = [&view](int keyId) {
-            return view.grab().toImage().pixelColor(keyPreviewRect(view.size(), keyId).center());
-        };
-        writePicture(Qt::red, {90, 84});
-        view.showPage(1, 1);
-        QCOMPARE(colourOf(2), QColor(Qt::red));
-        QCOMPARE(colourOf(1), QColor(108, 108, 108)); // no function
-        QCOMPARE(colourOf(3), QColor(Qt::black));     // what is no picture
-        writePicture(Qt::blue, {45, 42});
-        view.showPage(1, 1);
-        QCOMPARE(colourOf(2), QColor(Qt::blue));
-        view.showPage(1, 2);
-        QCOMPARE(colourOf(2), QColor(108, 108, 108));
+        QFETCH(int, layoutId);
+        QFETCH(int, pageId);
+        QWidget far;
+        far.setGeometry(20000, 20000, 300, 200);
+        saveWindowState({far.saveGeometry(), layoutId, pageId});
+        const WindowState state = loadWindowState();
+        QCOMPARE(state.layoutId, 1);
+        QCOMPARE(state.pageId, 1);
+        FakeContext context;
+        RecordingDesktop desktop;
+        Widget window(context, desktop);
+        QVERIFY(QGuiApplication::primaryScreen()->availableGeometry().contains(window.geometry().topLeft()));
     }
 };
 

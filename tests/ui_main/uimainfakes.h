@@ -41,7 +41,13 @@ public:
     vorlindesk::LanguageManager *languageManager() override { return hasLanguage ? &language : nullptr; }
     vorlinmodel::IFunctionManager *functionManager() override { return hasStore ? &store : nullptr; }
     vorlinmodel::IProtocolThread *protocolThread() override { return &thread; }
-    void sendRequest(vorlinmodel::RequestKind, int, int, int, int, int) override {}
+    void sendRequest(vorlinmodel::RequestKind kind, int layoutId, int pageId, int keyId, int,
+                     int attributeId) override
+    {
+        const QString ids =
+            QStringLiteral("%1: %2 %3 %4").arg(int(kind)).arg(layoutId).arg(pageId).arg(keyId);
+        requests.append(QStringLiteral("%1, id %2").arg(ids).arg(attributeId));
+    }
     void sendRequest(vorlinmodel::RequestKind kind, int layoutId, int pageId) override
     {
         requests.append(QStringLiteral("%1: %2, %3").arg(int(kind)).arg(layoutId).arg(pageId));
@@ -63,7 +69,8 @@ public:
     vorlindesk::LanguageManager language{&translator};
     vorlinmodel::FunctionManager store;
     FakeProtocolThread thread;
-    QStringList requests; ///< "kind: argument", or "dialog id: time"
+    QStringList requests; ///< "kind: argument", "1: layout page key, id attribute", "7: layout, page", or
+                          ///< "dialog id: time"
     bool hasLanguage = true;
     bool hasStore = true;
 };

@@ -4,7 +4,15 @@
 namespace LogText {
 
 inline constexpr char SetupStatusFrameError[] = "setup status frame error\n";
+inline constexpr char SetupIconListFrameError[] = "setup icon list frame error\n";
+inline constexpr char SetupFunctionTabFrameError[] = "setup function tab frame error\n";
 inline constexpr char SetupMainFrameError[] = "setup main frame error\n";
+
+inline constexpr char SelectPage[] = "select id:%d\n";
+inline constexpr char SetupFunctionConfigError[] = "setup function config widget error\n";
+inline constexpr char SetupLayoutPageError[] = "setup pannel layout config widget error\n";
+inline constexpr char SetupPictureUploadError[] = "setup picture upload widget error\n";
+inline constexpr char SetupSystemSettingsError[] = "setup  system config widget error\n"; // two blanks
 
 inline constexpr char FirstSync[] = "----------------mIsFirstSync=%d\n";
 inline constexpr char StartAutoSync[] = "-------------------start auto----sync devinfo--------";
@@ -42,6 +50,7 @@ inline constexpr char ReadAgain[] =
     "The link to the panel was interrupted, its configuration is read again\n";
 inline constexpr char TextStaysOnClipboard[] =
     "Ctrl+V cannot be pressed here, the text stays on the clipboard\n";
+inline constexpr char KeysNotSaved[] = "The keys could not be written to the disk at the end\n";
 inline constexpr char NoWorkerThread[] = "No thread for a received message (%s), it is handled in between\n";
 
 } // namespace LogText

@@ -1,60 +1,81 @@
-/// The main area of the window: the panel as it was read, page by page.
+/// The main area of the window: one of the four pages.
 #pragma once
 
 #include <QFrame>
 #include <QMap>
 
-class PageView;
-class QLabel;
+class FunctionConfigWidget;
+class LayoutPage;
+class PictureUploadPage;
 class QPushButton;
+class QVBoxLayout;
+class SystemSettingsPage;
+struct EditorContext;
 
 namespace vorlindesk {
-class IFrameworkContext;
-}
-namespace vorlinmodel {
-class IFunctionManager;
+class IDesktop;
 }
 
+/// The editor is built by setup(), the other pages when they are first selected. @p context and @p desktop
+/// must outlive the frame.
 class MainFrame : public QFrame
 {
     Q_OBJECT
 public:
-    /// What the program is doing, for the line that says so.
-    enum class Activity { Looking, Reading, Connected, ReadIncomplete };
+    /// Their numbers are those of the menu.
+    enum Page { FunctionConfiguration, PanelLayout, PictureUpload, SystemSettings };
 
-    MainFrame(vorlindesk::IFrameworkContext &context, vorlinmodel::IFunctionManager &store, QWidget *parent);
+    MainFrame(EditorContext &context, vorlindesk::IDesktop &desktop, QWidget *parent);
 
-    /// Shows a page; the panel is not told.
-    void showPage(int layoutId, int pageId);
-    void refreshKeys(); ///< of the page in view
-    int curLayoutId() const { return mCurLayoutId; }
-    int curPageId() const { return mCurPageId; }
+    bool setup(); ///< @return false when the editor cannot be built, which is logged
+    /// Brings a page into view, unless the person stays with unsaved steps or the page cannot be built;
+    /// sigPageSelected tells which it is then. Other numbers are ignored.
+    void select(int index);
+    int currentPage() const { return mCurrentPage; }
 
-    /// @p received and @p announced count keys, and matter only while reading; 0 of 0: not known yet.
-    void showActivity(Activity activity, int received = 0, int announced = 0);
+    FunctionConfigWidget &editor() { return *mpFunctionConfig; } ///< after setup()
+    /// While the panel is read, which overwrites the keys, they cannot be edited.
+    void setReading(bool reading);
 
-    /// Values that the panel reported, by function code 13, 16, 17 or 18.
+    /// Some values are asked for when they are to be seen, which takes a panel.
+    void setConnected(bool connected) { mConnected = connected; }
+    /// Values that the panel reported, by function code: versions (3 and 4), 13, 16, 17 or 18.
     void showDeviceValue(int code, const QString &value);
+    QString deviceValue(int code) const { return mDeviceValues.value(code); } ///< empty: not known
 
     /// Something is under way that a version request must not disturb.
     bool isTransferInProgress() const;
     void retranslate();
 
-private:
-    void turnPage(int step);
-    QString activityText() const;
+signals:
+    void sigPageSelected(int index);
+    void sigGalleryChanged(); ///< a picture was added
 
-    vorlindesk::IFrameworkContext &mContext;
-    int mCurLayoutId = 1;
-    int mCurPageId = 1;
-    Activity mActivity = Activity::Looking;
-    int mReceived = 0;
-    int mAnnounced = 0;
+public slots:
+    void slotShowHomeLayout();
+
+private:
+    bool build(int index);
+    template <class PageWidget>
+    bool take(PageWidget *&page, const char *failure);
+    bool setupLayoutPage();
+    bool setupPictureUploadPage();
+    bool setupSystemSettingsPage();
+    QWidget *page(int index) const;
+    void showCurrentPage();
+    void showHomeButton();
+    void askForBrightness();
+    void showInEditor(int layoutId);
+
+    EditorContext &mContext;
+    vorlindesk::IDesktop &mDesktop;
+    int mCurrentPage = FunctionConfiguration;
+    bool mConnected = false;
     QMap<int, QString> mDeviceValues; ///< by function code
-    QLabel *mpActivity;
-    QLabel *mpDeviceValues;
-    PageView *mpPageView;
-    QPushButton *mpPrevPage;
-    QPushButton *mpNextPage;
-    QLabel *mpPage;
+    QVBoxLayout *mpLayout;
+    QPushButton *mpHomeButton;
+    FunctionConfigWidget *mpFunctionConfig = nullptr;
+    LayoutPage *mpLayoutPage = nullptr;
+    PictureUploadPage *mpPictureUpload = nullptr;
+    SystemSettingsPage *mpSystemSettings = nullptr;
 };

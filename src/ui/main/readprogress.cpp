@@ -4,6 +4,7 @@ void ReadProgress::begin()
 {
     *this = {};
     mState = State::Requested;
+    mAskedFor = true;
     mFirstPageAwaited = true;
 }
 

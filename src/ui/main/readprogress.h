@@ -26,6 +26,9 @@ public:
     void linkLost();
     bool mustReadAgain() const { return isReading() || mInterrupted; }
 
+    /// What is being read, or was read last, is the answer to a begin().
+    bool wasAskedFor() const { return mAskedFor; }
+
     State state() const { return mState; }
     bool isReading() const { return mState != State::Idle; }
     int keysAnnounced() const { return mKeysOfCompletePages + mPageTotal; }
@@ -34,6 +37,7 @@ public:
 
 private:
     State mState = State::Idle;
+    bool mAskedFor = false;
     bool mFirstPageAwaited = false;
     bool mInterrupted = false;
     int mKeysOfCompletePages = 0;

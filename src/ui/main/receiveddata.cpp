@@ -9,6 +9,7 @@
 #include "platform/timing.h"
 #include "wire/applicationmessage.h"
 #include "wire/homelayout.h"
+#include "wire/keyrecord.h"
 
 using ApplicationMessage::View;
 using vorlindesk::Log;
@@ -25,6 +26,17 @@ QString shownText(const View &view)
     const QByteArray bytes(reinterpret_cast<const char *>(view.body), view.bodySize);
     const int end = bytes.indexOf('\0');
     return QString::fromUtf8(bytes.left(end < 0 ? bytes.size() : end)).simplified().left(longest);
+}
+
+/// The keys that the records of a page name; those that the store skips may be among them.
+QVector<vorlinmodel::key_id_t> keysOfPage(const View &view)
+{
+    QVector<vorlinmodel::key_id_t> keys;
+    if (const auto page = decodePagePayload(view.body, view.bodySize)) {
+        for (const KeyRecord &record : page->records)
+            keys.append({record.layoutId, record.pageId, record.keyId});
+    }
+    return keys;
 }
 
 } // namespace
@@ -82,10 +94,9 @@ void ReceivedDataHandler::handlePage(const View &view, bool firstPage)
     const auto page = mStore.saveAllKeyAttrByDevconfig(view.body, view.bodySize);
     if (!page)
         return;
-    const int keyCount = mStore.getReceivedCounts().total;
-    mHandOver.post([this, id = *page, keyCount, firstPage] {
-        mReceiver.onPageReceived(id.lid, id.pageid, keyCount, firstPage);
-    });
+    const ReceivedPage received{page->lid, page->pageid, mStore.getReceivedCounts().total, firstPage,
+                                keysOfPage(view)};
+    mHandOver.post([this, received] { mReceiver.onPageReceived(received); });
     if (view.bodySize == EmptyPageSize) // no picture will come that could complete it
         postComplete();
 }

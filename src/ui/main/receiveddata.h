@@ -1,8 +1,11 @@
 /// Decodes what the panel sends, and puts it into the model.
 #pragma once
 
+#include "model/keyid.h"
+
 #include <QByteArray>
 #include <QString>
+#include <QVector>
 #include <functional>
 
 namespace vorlindesk {
@@ -15,14 +18,23 @@ namespace ApplicationMessage {
 struct View;
 }
 
+/// A page whose keys are in the store.
+struct ReceivedPage
+{
+    int layoutId = 0;
+    int pageId = 0;
+    int keyCount = 0;   ///< as announced: so many pictures follow
+    bool first = false; ///< of this read
+    QVector<vorlinmodel::key_id_t> keys;
+};
+
 /// What has come out of a message. All calls are made on the user-interface thread, in the order of arrival.
 class IReceivedData
 {
 public:
     virtual ~IReceivedData() = default;
 
-    /// The keys of a page are in the store. @p first: it is the first page of this read.
-    virtual void onPageReceived(int layoutId, int pageId, int keyCount, bool first) = 0;
+    virtual void onPageReceived(const ReceivedPage &page) = 0;
     /// One message of the page under way: pictures announced and received so far.
     virtual void onRecordReceived(int total, int received) = 0;
     /// All that was announced has arrived.

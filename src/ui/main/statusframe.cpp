@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 using vorlindesk::TextId;
 
@@ -19,12 +20,16 @@ constexpr int IconSide = 28; // pixels
 /// case.
 QPixmap connectionIcon(bool connected)
 {
-    const QImage icon = knownPicture(connected ? QStringLiteral(":/icon/connected.png")
-                                               : QStringLiteral(":/icon/disconnected.png"),
+    constexpr int density = 2; // of the drawing; plain screens scale it down
+    const QImage icon = knownPicture(connected ? QStringLiteral(":/icon/connected@2x.png")
+                                               : QStringLiteral(":/icon/disconnected@2x.png"),
                                      "PNG");
-    if (!icon.isNull())
-        return QPixmap::fromImage(
-            icon.scaled(IconSide, IconSide, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    if (!icon.isNull()) {
+        QPixmap pixmap = QPixmap::fromImage(icon.scaled(IconSide * density, IconSide * density,
+                                                        Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        pixmap.setDevicePixelRatio(density);
+        return pixmap;
+    }
     QPixmap disc(IconSide, IconSide);
     disc.fill(Qt::transparent);
     QPainter painter(&disc);
@@ -60,6 +65,7 @@ StatusFrame::StatusFrame(const vorlindesk::LanguageManager &language, QWidget *p
     : QFrame(parent)
     , mLanguage(language)
     , mpConnectionIcon(new QLabel(this))
+    , mpActivity(textLabel(QStringLiteral("activity"), this))
     , mpSoftwareVersion(textLabel(QStringLiteral("softwareVersion"), this))
     , mpHardwareVersion(textLabel(QStringLiteral("hardwareVersion"), this))
     , mpReadButton(new QPushButton(this))
@@ -70,13 +76,19 @@ StatusFrame::StatusFrame(const vorlindesk::LanguageManager &language, QWidget *p
     mpReadButton->setObjectName(QStringLiteral("readDeviceConfig"));
     connect(mpReadButton, &QPushButton::clicked, this, &StatusFrame::sigReadDeviceConfig);
 
+    mpActivity->setWordWrap(true);
+    auto *versions = new QVBoxLayout;
+    versions->setSpacing(2);
+    versions->addStretch();
+    versions->addWidget(mpSoftwareVersion);
+    versions->addWidget(mpHardwareVersion);
+    versions->addStretch();
     auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(20, 8, 20, 8);
-    layout->setSpacing(24);
+    layout->setContentsMargins(20, 4, 20, 4);
+    layout->setSpacing(20);
     layout->addWidget(mpConnectionIcon);
-    layout->addWidget(mpSoftwareVersion);
-    layout->addWidget(mpHardwareVersion);
-    layout->addStretch();
+    layout->addWidget(mpActivity, 1);
+    layout->addLayout(versions);
     layout->addWidget(mpReadButton);
     setConnected(false);
     retranslate();
@@ -110,6 +122,31 @@ void StatusFrame::setReading(bool reading)
     refreshButton();
 }
 
+void StatusFrame::showActivity(Activity activity, int received, int announced)
+{
+    mActivity = activity;
+    mReceived = received;
+    mAnnounced = announced;
+    mpActivity->setText(activityText());
+}
+
+QString StatusFrame::activityText() const
+{
+    switch (mActivity) {
+    case Activity::Looking:
+        return tr("Looking for the panel...");
+    case Activity::Reading:
+        if (mAnnounced == 0)
+            return tr("Reading the configuration...");
+        return tr("Reading the configuration... %1 of %2 keys").arg(mReceived).arg(mAnnounced);
+    case Activity::ReadIncomplete:
+        return tr("Connected. The configuration was not read to its end.");
+    case Activity::Connected:
+        break;
+    }
+    return tr("Connected");
+}
+
 void StatusFrame::refreshButton()
 {
     mpReadButton->setEnabled(mConnected && !mReading);
@@ -120,6 +157,7 @@ void StatusFrame::retranslate()
     showVersion(*mpSoftwareVersion, mLanguage.Text(TextId::SoftwareVersion), mSoftwareVersion);
     showVersion(*mpHardwareVersion, mLanguage.Text(TextId::HardwareVersion), mHardwareVersion);
     mpReadButton->setText(mLanguage.Text(TextId::ReadDeviceConfig));
+    mpActivity->setText(activityText());
     const QString state = mConnected ? tr("Connected") : tr("Not connected");
     mpConnectionIcon->setToolTip(state);
     mpConnectionIcon->setAccessibleName(state);

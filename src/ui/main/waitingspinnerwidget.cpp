@@ -33,6 +33,8 @@ void WaitingSpinnerWidget::start(int requestId, int showTimeMs)
     Log(LogLevel::Info, LogText::SetShowTime, mRequestId);
     show();
     raise();
+    if (parentWidget()->isEnabled())
+        mpFocus = parentWidget()->focusWidget();
     parentWidget()->setEnabled(false);
     mLeadingLine = 0;
     mAnimation.start();
@@ -43,6 +45,9 @@ void WaitingSpinnerWidget::stop()
 {
     hide();
     parentWidget()->setEnabled(true);
+    if (mpFocus && mpFocus->isEnabled())
+        mpFocus->setFocus();
+    mpFocus = nullptr;
     mAnimation.stop();
     mShowTime.stop();
     mRequestId = 0;

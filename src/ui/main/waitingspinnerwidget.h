@@ -1,6 +1,7 @@
 /// The spinner that covers the window while the panel works on a request.
 #pragma once
 
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
@@ -51,4 +52,5 @@ private:
     QTimer mShowTime{this};
     int mRequestId = 0;
     int mLeadingLine = 0;
+    QPointer<QWidget> mpFocus; ///< had the keyboard before the parent was disabled
 };

@@ -3,18 +3,23 @@
 
 #include "base/handover.h"
 #include "hostactions.h"
+#include "model/keyid.h"
 #include "platform/desktop.h"
 #include "readprogress.h"
 #include "receiveddata.h"
 #include "receiveworkers.h"
 
 #include <QTimer>
+#include <QVector>
 #include <QWidget>
 #include <memory>
 
+class FuncTabFrame;
+class GalleryFrame;
 class MainFrame;
 class StatusFrame;
 class WaitingSpinnerWidget;
+struct EditorContext;
 
 namespace vorlindesk {
 class IFrameworkContext;
@@ -56,17 +61,23 @@ public slots:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
 
 private:
     bool setUp();
     bool setupStatusFrame();
+    bool setupIconListFrame();
+    bool setupFunctionTabFrame();
     void setupSpinner();
     bool setupMainFrame();
     void layOutFrames();
+    void connectFrames();
+    void restoreState();
+    void saveAll();
     void connectProtocolThread(vorlinmodel::IProtocolThread &thread);
     void connectTimers();
 
-    void onPageReceived(int layoutId, int pageId, int keyCount, bool first) override;
+    void onPageReceived(const ReceivedPage &page) override;
     void onRecordReceived(int total, int received) override;
     void onConfigurationComplete() override;
     void onTextReceived(int code, const QString &text) override;
@@ -74,17 +85,28 @@ private:
     void onCustomLayoutReceived(const QByteArray &payload) override;
 
     void onConnectState(bool connected);
+    void onPanelCame();
     void onVersion(int code, const QString &text);
     void onPollTimeout();
     void watchRead();
+    void onReadEndTimeout();
     void finishRead();
+    void beginEditorRead();
+    void onReadMessageHandled();
+    void endEditorRead();
+    void endReadNow();
     void showActivity();
     void retranslate();
 
     vorlindesk::IFrameworkContext &mContext;
     vorlinmodel::IFunctionManager *mpStore;
+    vorlindesk::IDesktop &mDesktop;
     HostActions mHostActions;
+    std::unique_ptr<EditorContext> mpEditor; ///< outlives the main frame
     StatusFrame *mpStatusFrame = nullptr;
+    GalleryFrame *mpIconListFrame = nullptr;
+    FuncTabFrame *mpFuncTabFrame = nullptr;
+    QWidget *mpLeftColumn = nullptr;
     WaitingSpinnerWidget *mpSpinner = nullptr;
     MainFrame *mpMainFrame = nullptr;
     QTimer mSyncTimer{this};
@@ -94,10 +116,19 @@ private:
     bool mIsFirstSync = true;
     bool mAskedForVersion = false;
     bool mConnected = false;
+    bool mWasConnected = false; ///< before the panel was last seen to go
     bool mSoftwareVersionKnown = false;
     bool mReadIncomplete = false;
+    bool mReadWhole = false; ///< the panel sent all it has; not only what it chose to send
+    bool mAllSaved = false;
     ReadProgress mProgress;
+    bool mEditorReads = false;                    ///< between the editor's beginRead() and endRead()
+    int mReadMessages = 0;                        ///< of a read, that workers have not finished yet
+    QVector<vorlinmodel::key_id_t> mReceivedKeys; ///< of the pages since the read began
     vorlindesk::HandOver mHandOver;
     std::unique_ptr<ReceivedDataHandler> mpReceivedData;
     ReceiveWorkers mWorkers;
 };
+
+/// Width of the column with menu and gallery in a window of @p windowWidth pixels.
+int leftColumnWidth(int windowWidth);

@@ -5,6 +5,8 @@
 #include "mainframe.h"
 #include "model/ifunctionmanager.h"
 #include "statusframe.h"
+#include "ui_editor/editorcontext.h"
+#include "ui_editor/functionconfigwidget.h"
 #include "waitingspinnerwidget.h"
 #include "widget.h"
 #include "wire/customlayout.h"
@@ -44,20 +46,70 @@ void Widget::slotDealRecvData(const quint8 *recvData, int nBufferLen)
     // Settled here, in the order of arrival, since a worker may come to a message long after the next read
     // was asked for, or the panel was unplugged.
     const int functionCode = nBufferLen > 0 ? recvData[0] : 0;
-    if (functionCode == code(FunctionCode::MD_FUNCTION_CODE_READ_CONFIGFILE))
+    if (functionCode == code(FunctionCode::MD_FUNCTION_CODE_READ_CONFIGFILE)) {
         message.firstPage = mProgress.takeFirstPage();
-    else if (isVersion(functionCode))
+        beginEditorRead(); // a panel may also send a page by itself
+    } else if (isVersion(functionCode)) {
         onConnectState(true);
-    mWorkers.start([this, message] { mpReceivedData->handle(message); });
+    }
+    if (!mEditorReads) {
+        mWorkers.start([this, message] { mpReceivedData->handle(message); });
+        return;
+    }
+    ++mReadMessages;
+    mWorkers.start([this, message] {
+        mpReceivedData->handle(message);
+        mHandOver.post([this] { onReadMessageHandled(); });
+    });
 }
 
-void Widget::onPageReceived(int layoutId, int pageId, int keyCount, bool first)
+/// Before the store is changed: the editor keeps what the panel has not taken.
+void Widget::beginEditorRead()
 {
-    mProgress.pageReceived(keyCount);
-    if (first)
-        mpMainFrame->showPage(layoutId, pageId);
-    else if (layoutId == mpMainFrame->curLayoutId() && pageId == mpMainFrame->curPageId())
-        mpMainFrame->refreshKeys();
+    if (std::exchange(mEditorReads, true))
+        return;
+    mReadWhole = false;
+    mReceivedKeys.clear();
+    mpEditor->edits.beginRead();
+    mpMainFrame->setReading(true);
+}
+
+void Widget::onReadMessageHandled()
+{
+    --mReadMessages;
+    endEditorRead();
+}
+
+/// When the read is over, and nothing that belongs to it can change the store any more.
+void Widget::endEditorRead()
+{
+    if (!mEditorReads || mReadMessages > 0 || mProgress.isReading())
+        return;
+    mEditorReads = false;
+    mpEditor->edits.endRead(mReadWhole, mReceivedKeys);
+    mpMainFrame->editor().refreshKeys();
+    mpMainFrame->setReading(false);
+}
+
+/// What has come so far stays; messages that no worker has begun with are dropped.
+void Widget::endReadNow()
+{
+    mWorkers.cancel();
+    mReadMessages = 0;
+    mReadWhole = false;
+    mProgress.finish();
+    endEditorRead();
+}
+
+void Widget::onPageReceived(const ReceivedPage &page)
+{
+    mProgress.pageReceived(page.keyCount);
+    mReceivedKeys += page.keys;
+    FunctionConfigWidget &editor = mpMainFrame->editor();
+    if (page.first)
+        editor.showDevicePage(page.layoutId, page.pageId);
+    else if (page.layoutId == editor.curLayoutId() && page.pageId == editor.curPageId())
+        editor.refreshKeys();
     watchRead();
 }
 
@@ -74,8 +126,9 @@ void Widget::onConfigurationComplete()
     mProgress.pageComplete();
     mContext.hideWaitingDialog();
     mpStore->setModeFlag(false);
-    Log(LogLevel::Info, LogText::RefreshAll, mpMainFrame->curLayoutId(), mpMainFrame->curPageId());
-    mpMainFrame->refreshKeys();
+    FunctionConfigWidget &editor = mpMainFrame->editor();
+    Log(LogLevel::Info, LogText::RefreshAll, editor.curLayoutId(), editor.curPageId());
+    editor.refreshKeys();
     watchRead();
 }
 
@@ -85,10 +138,19 @@ void Widget::watchRead()
 {
     if (!mProgress.isReading() || mpSpinner->isSpinning())
         mReadEndTimer.stop();
+    else if (!mConnected || mProgress.state() == ReadProgress::State::PageRead)
+        mReadEndTimer.start(NextPageTimeout);
     else
-        mReadEndTimer.start(mProgress.state() == ReadProgress::State::PageRead ? NextPageTimeout
-                                                                               : NextRecordTimeout);
+        mReadEndTimer.start(NextRecordTimeout);
     showActivity();
+}
+
+void Widget::onReadEndTimeout()
+{
+    if (mReadMessages > 0) // something has come, and is still being decoded
+        watchRead();
+    else
+        finishRead();
 }
 
 void Widget::finishRead()
@@ -98,12 +160,13 @@ void Widget::finishRead()
         return;
     mpStore->setModeFlag(false);
     mReadIncomplete = !mProgress.finish();
+    mReadWhole = !mReadIncomplete && mProgress.wasAskedFor() && !mProgress.mustReadAgain();
     if (mReadIncomplete)
         Log(LogLevel::Warn, LogText::ReadGivenUp, mProgress.keysReceived(), mProgress.keysAnnounced(),
             mProgress.pages());
     else
         Log(LogLevel::Info, LogText::ReadFinished, mProgress.keysReceived(), mProgress.pages());
-    mpMainFrame->refreshKeys();
+    endEditorRead();
     showActivity();
     if (!mSoftwareVersionKnown && !mReadIncomplete) // else it would be shown only half a minute later
         onPollTimeout();
@@ -119,6 +182,7 @@ void Widget::onTextReceived(int functionCode, const QString &text)
 
 void Widget::onVersion(int functionCode, const QString &text)
 {
+    mpMainFrame->showDeviceValue(functionCode, text);
     if (functionCode == code(FunctionCode::MD_FUNCTION_CODE_HARDWARE_VERSION)) {
         mpStatusFrame->setHardwareVersion(text);
         if (mIsFirstSync) {
@@ -155,9 +219,33 @@ void Widget::onCustomLayoutReceived(const QByteArray &payload)
 
 void Widget::onConnectState(bool connected)
 {
+    const bool came = connected && !mConnected;
+    const bool went = !connected && mConnected;
     mConnected = connected;
     mpStatusFrame->setConnected(connected);
+    mpMainFrame->setConnected(connected);
+    if (came)
+        onPanelCame();
     if (!connected)
         mProgress.linkLost();
+    if (went) {
+        mWasConnected = true;
+        if (mProgress.isReading()) { // no more will come
+            mContext.hideWaitingDialog();
+            watchRead();
+        }
+    }
     showActivity();
+}
+
+/// The requests go out before any that reads the panel, since they are queued before it.
+void Widget::onPanelCame()
+{
+    mpEditor->edits.sendPending();
+    if (!mWasConnected)
+        return;
+    // It shows whatever it shows after its start.
+    const FunctionConfigWidget &editor = mpMainFrame->editor();
+    mContext.sendRequest(vorlinmodel::RequestKind::MD_FUNCTION_CODE_SELECT_PAGE, editor.curLayoutId(),
+                         editor.curPageId());
 }

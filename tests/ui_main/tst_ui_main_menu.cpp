@@ -1,0 +1,200 @@
+// The menu, the four pages that it brings into view, and the way back from a child page.
+#include "model/multiaction.h"
+#include "resources/translationresources.h"
+#include "ui_common/messagebox.h"
+#include "ui_editor/functionconfigwidget.h"
+#include "ui_editor/multiactionwidget.h"
+#include "ui_main/frameiconbutton.h"
+#include "ui_main/mainframe.h"
+#include "ui_main/widget.h"
+#include "uimainfakes.h"
+
+#include <QAccessible>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QtTest>
+
+namespace {
+
+const QString Selected = QStringLiteral("border:2px solid;\nborder-color: rgb(0, 0, 255);");
+const QString Plain = QStringLiteral("border:2px solid;\nborder-color: rgb(255, 255, 255);");
+const char *const Names[] = {"mFuncSetBtn", "mLayoutSetBtn", "mPictureUploadBtn", "mSystemSetBtn"};
+const char *const Pages[] = {"", "layoutPage", "pictureUploadPage", "systemSettingsPage"};
+
+} // namespace
+
+class tst_ui_main_menu : public QObject
+{
+    Q_OBJECT
+    std::unique_ptr<TemporaryCurrentDir> mpDir;
+    std::unique_ptr<FakeContext> mpContext;
+    RecordingDesktop mDesktop;
+    std::unique_ptr<Widget> mpWidget;
+
+    template <class Child>
+    Child *child(const char *name) const
+    {
+        return mpWidget->findChild<Child *>(QString::fromLatin1(name));
+    }
+    FrameIconButton *entry(int index) const { return child<FrameIconButton>(Names[index]); }
+    FunctionConfigWidget *editor() const { return mpWidget->findChild<FunctionConfigWidget *>(); }
+    QWidget *page(int index) const { return index == 0 ? editor() : child<QWidget>(Pages[index]); }
+    MainFrame *mainFrame() const { return child<MainFrame>("mainframe"); }
+
+    /// @return the index of the only page in view; -1 when it is not exactly one.
+    int pageInView() const
+    {
+        QVector<int> visible;
+        for (int index = 0; index < 4; ++index) {
+            if (page(index) && page(index)->isVisible())
+                visible.append(index);
+        }
+        return visible.size() == 1 ? visible.first() : -1;
+    }
+    /// The same for the entry that has the selected border.
+    int selectedEntry() const
+    {
+        QVector<int> selected;
+        for (int index = 0; index < 4; ++index) {
+            if (entry(index)->styleSheet() == Selected)
+                selected.append(index);
+            else if (entry(index)->styleSheet() != Plain)
+                return -1;
+        }
+        return selected.size() == 1 ? selected.first() : -1;
+    }
+
+private slots:
+    void initTestCase() { initTranslationResources(); }
+
+    void init()
+    {
+        mpDir = std::make_unique<TemporaryCurrentDir>();
+        mpContext = std::make_unique<FakeContext>();
+        QVERIFY(mpContext->language.Init());
+        QVERIFY(mpContext->store.Init());
+        mpWidget = std::make_unique<Widget>(*mpContext, mDesktop);
+        mpWidget->show();
+        QVERIFY(QTest::qWaitForWindowExposed(mpWidget.get()));
+    }
+
+    void cleanup()
+    {
+        MessageBox::setAnswer({});
+        mpWidget.reset();
+        mpContext.reset();
+        mpDir.reset();
+    }
+
+    void clickBringsThePageIntoView()
+    {
+        QCOMPARE(pageInView(), 0);
+        QCOMPARE(selectedEntry(), 0);
+        const LogCapture log;
+        for (const int index : {1, 1, 2, 3, 0}) { // 1 twice: it stays selected
+            QTest::mouseClick(entry(index), Qt::LeftButton);
+            QCOMPARE(pageInView(), index);
+            QCOMPARE(selectedEntry(), index);
+        }
+        QCOMPARE(log.matching("select id:"),
+                 QStringList({QStringLiteral("1 select id:1"), QStringLiteral("1 select id:1"),
+                              QStringLiteral("1 select id:2"), QStringLiteral("1 select id:3"),
+                              QStringLiteral("1 select id:0")}));
+        mainFrame()->select(4);
+        QCOMPARE(pageInView(), 0);
+    }
+
+    void entryIsAButton_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::newRow("space") << int(Qt::Key_Space);
+        QTest::newRow("return") << int(Qt::Key_Return);
+        QTest::newRow("enter") << int(Qt::Key_Enter);
+    }
+
+    void entryIsAButton()
+    {
+        QFETCH(int, key);
+        QTest::keyClick(entry(2), static_cast<Qt::Key>(key));
+        QCOMPARE(pageInView(), 2);
+        QTest::mousePress(entry(1), Qt::LeftButton);
+        QTest::mouseRelease(entry(1), Qt::LeftButton, {}, QPoint(-5, 5)); // let go beside it
+        QTest::mouseClick(entry(1), Qt::RightButton);
+        QCOMPARE(pageInView(), 2);
+        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(entry(1));
+        QCOMPARE(accessible->text(QAccessible::Name), QStringLiteral("Panel Layout"));
+        accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(pageInView(), 1);
+        QVERIFY(accessible->state().checked);
+    }
+
+    void homeButtonLeadsBackFromAChildPage()
+    {
+        auto *home = child<QPushButton>("homeButton");
+        QVERIFY(!home->isVisible());
+        editor()->onKeyBtnClicked({1, 1, 3}, 18, true);
+        QCOMPARE(editor()->curPageId(), 4);
+        QVERIFY(home->isVisible());
+        for (int index = 1; index <= 3; ++index) {
+            mainFrame()->select(index);
+            QVERIFY(!home->isVisible());
+        }
+        mainFrame()->select(0);
+        QVERIFY(home->isVisible());
+        home->click();
+        QVERIFY(!home->isVisible());
+        QCOMPARE(editor()->curPageId(), 1);
+        mainFrame()->select(0);
+        QVERIFY(!home->isVisible());
+    }
+
+    void unsavedStepsAreAskedAboutBeforeThePageIsLeft()
+    {
+        mpContext->store.createKeyAttribute(1, 1, 4, 4);
+        editor()->onKeyBtnClicked({1, 1, 4}, 4, true);
+        mpWidget->findChild<MultiActionWidget *>()->addStep(6);
+        QMessageBox::StandardButton answer = QMessageBox::Cancel;
+        int boxes = 0;
+        MessageBox::setAnswer([&](const QMessageBox &) {
+            ++boxes;
+            return answer;
+        });
+        QTest::mouseClick(entry(3), Qt::LeftButton);
+        QCOMPARE(boxes, 1);
+        QCOMPARE(pageInView(), 0);
+        QCOMPARE(selectedEntry(), 0);
+        QVERIFY(!mpWidget->close());
+        QVERIFY(mpWidget->isVisible());
+        answer = QMessageBox::Discard;
+        QTest::mouseClick(entry(3), Qt::LeftButton);
+        QCOMPARE(pageInView(), 3);
+        QVERIFY(mpWidget->close());
+    }
+
+    void languageChangesEverywhereAtOnce()
+    {
+        for (int index = 3; index > 0; --index)
+            mainFrame()->select(index);
+        const auto text = [this](const char *name) {
+            return child<QLabel>(name)->text();
+        };
+        child<QRadioButton>("language1")->click();
+        QCOMPARE(text("mFuncSetBtn_textlabel"), QStringLiteral("功能配置"));
+        QCOMPARE(text("mSystemSetBtn_textlabel"), QStringLiteral("系统设置"));
+        QCOMPARE(child<QPushButton>("readDeviceConfig")->text(), QStringLiteral("读取设备配置"));
+        QCOMPARE(child<QPushButton>("homeButton")->text(), QStringLiteral("首页"));
+        QCOMPARE(child<QPushButton>("addToGallery")->text(), QStringLiteral("添加到图库"));
+        QVector<QString> captions;
+        for (int index = 1; index <= 3; ++index)
+            captions.append(page(index)->findChild<QLabel *>(QStringLiteral("caption"))->text());
+        QCOMPARE(captions, QVector<QString>({QStringLiteral("面板布局"), QStringLiteral("图片上传"),
+                                             QStringLiteral("系统设置")}));
+        child<QRadioButton>("language0")->click();
+        QCOMPARE(text("mFuncSetBtn_textlabel"), QStringLiteral("Function Configuration"));
+        QVERIFY(child<QRadioButton>("language0")->isChecked());
+    }
+};
+
+QTEST_MAIN(tst_ui_main_menu)
+#include "tst_ui_main_menu.moc"
