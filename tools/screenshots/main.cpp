@@ -1,0 +1,192 @@
+/// Takes the pictures of the documentation: shows the real window, with the demonstration of the virtual panel behind it,
+/// uses it by mouse and keys, and saves what it looks like.
+///
+/// Usage: screenshots FOLDER [SUFFIX]   with VIRTUAL_PANEL_PORT set to a free port. SUFFIX goes behind each file's name.
+#include "app/frameworkcontext.h"
+#include "base/language.h"
+#include "base/systemsettings.h"
+#include "model/functionids.h"
+#include "model/ifunctionmanager.h"
+#include "panel_app/democonfiguration.h"
+#include "panel_link/panelserver.h"
+#include "ui_editor/functionconfigwidget.h"
+#include "ui_editor/keyboardwidget.h"
+#include "ui_editor/keywidget.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMouseEvent>
+#include <QTemporaryDir>
+#include <QWidget>
+#include <cstdio>
+
+namespace {
+
+constexpr QSize SmallestSize(1024, 640);
+constexpr QSize LargeSize(1920, 1080);
+constexpr int MultiActionKey = 4; // of the demonstration
+constexpr int CombinationKey = 10;
+constexpr int ChildPageKey = 11;
+
+class Photographer
+{
+public:
+    Photographer(QWidget &window, QString folder, QString suffix)
+        : mWindow(window)
+        , mFolder(std::move(folder))
+        , mSuffix(std::move(suffix))
+    {}
+
+    void wait(int milliseconds)
+    {
+        QElapsedTimer timer;
+        timer.start();
+        while (timer.elapsed() < milliseconds)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    }
+
+    bool waitUntil(const std::function<bool()> &condition)
+    {
+        constexpr int patience = 30000; // ms
+        QElapsedTimer timer;
+        timer.start();
+        while (!condition() && timer.elapsed() < patience)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        return condition();
+    }
+
+    void take(const char *name)
+    {
+        wait(300);
+        const QString path = QStringLiteral("%1/%2%3.png").arg(mFolder, QString::fromLatin1(name), mSuffix);
+        if (mWindow.grab().save(path, "PNG"))
+            std::printf("%s\n", qPrintable(path));
+        else
+            mFailed = true;
+    }
+
+    KeyWidget *key(int keyId)
+    {
+        for (KeyboardWidget *grid : mWindow.findChildren<KeyboardWidget *>()) {
+            if (grid->isVisible())
+                return grid->cell(keyId);
+        }
+        return nullptr;
+    }
+
+    void click(QWidget *target, bool twice = false)
+    {
+        if (!target) {
+            mFailed = true;
+            return;
+        }
+        const auto send = [target](QEvent::Type type) {
+            QMouseEvent event(type, target->rect().center(), Qt::LeftButton,
+                              type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(target, &event);
+        };
+        send(QEvent::MouseButtonPress);
+        send(QEvent::MouseButtonRelease);
+        if (twice) {
+            send(QEvent::MouseButtonDblClick);
+            send(QEvent::MouseButtonRelease);
+        }
+        wait(300);
+    }
+
+    void clickNamed(const char *name) { click(mWindow.findChild<QWidget *>(QString::fromLatin1(name))); }
+    void resize(QSize size)
+    {
+        mWindow.resize(size);
+        wait(300);
+    }
+    bool failed() const { return mFailed; }
+
+private:
+    QWidget &mWindow;
+    const QString mFolder;
+    const QString mSuffix;
+    bool mFailed = false;
+};
+
+QWidget *mainWindow()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (widget->objectName() == QLatin1String("mainwindow"))
+            return widget;
+    }
+    return nullptr;
+}
+
+void takeLanguages(Photographer &photographer, vorlindesk::LanguageManager &language)
+{
+    constexpr std::pair<int, const char *> languages[] = {{1, "main_zh_s"}, {2, "main_zh_t"}, {0, "main_en"}};
+    for (const auto &[value, name] : languages) {
+        language.setLanguage(value);
+        photographer.take(name);
+    }
+}
+
+void takeAll(Photographer &photographer, vorlindesk::LanguageManager &language)
+{
+    photographer.resize(SmallestSize);
+    photographer.click(photographer.key(CombinationKey));
+    takeLanguages(photographer, language);
+    photographer.click(photographer.key(5));
+    photographer.take("attributes_text");
+    photographer.click(photographer.key(12));
+    photographer.take("attributes_video");
+    photographer.click(photographer.key(MultiActionKey), true);
+    photographer.take("multi_action");
+    photographer.clickNamed("return");
+    photographer.click(photographer.key(ChildPageKey), true);
+    photographer.take("child_page");
+    photographer.click(photographer.key(vorlinmodel::LastKeyId), true); // its key "Return"
+    photographer.clickNamed("mLayoutSetBtn");
+    photographer.take("layouts");
+    photographer.clickNamed("mPictureUploadBtn");
+    photographer.take("picture_upload");
+    photographer.clickNamed("mSystemSetBtn");
+    photographer.take("settings");
+    photographer.clickNamed("mFuncSetBtn");
+    photographer.resize(LargeSize);
+    photographer.take("main_large");
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    if (argc < 2) {
+        std::fprintf(stderr, "usage: screenshots FOLDER [SUFFIX]\n");
+        return 2;
+    }
+    const QString pictures = QString::fromLocal8Bit(argv[1]);
+    const QString suffix = argc > 2 ? QString::fromLocal8Bit(argv[2]) : QString();
+    LinkOptions options;
+    options.port = static_cast<std::uint16_t>(qEnvironmentVariableIntValue("VIRTUAL_PANEL_PORT"));
+    PanelServer server(options);
+    const QTemporaryDir folder;
+    server.withModel(
+        [&folder](PanelModel &model) { model.setState(demoState(writeDemoTextFile(folder.path()))); });
+    vorlindesk::FrameworkContext context;
+    if (!server.start() || !context.start(argc, argv, folder.path())) {
+        std::fprintf(stderr, "cannot start: is the port in VIRTUAL_PANEL_PORT free?\n");
+        return 1;
+    }
+    QWidget *window = mainWindow();
+    window->show();
+    Photographer photographer(*window, pictures, suffix);
+    const vorlinmodel::key_id_t lastKey{1, 12, vorlinmodel::LastKeyId}; // of the demonstration
+    const auto isRead = [&] {
+        return context.functionManager()->getKeyAttribute(lastKey) && !context.functionManager()->getModeFlag() &&
+               window->findChild<FunctionConfigWidget *>()->isEnabled();
+    };
+    if (!photographer.waitUntil(isRead)) {
+        std::fprintf(stderr, "the panel was not read\n");
+        return 1;
+    }
+    photographer.wait(3000); // the end of the read
+    takeAll(photographer, *context.languageManager());
+    return photographer.failed() ? 1 : 0;
+}
