@@ -190,20 +190,19 @@ void FunctionConfigWidget::arrange()
 
 void FunctionConfigWidget::connectTools()
 {
-    using Command = void (KeyCommands::*)(KeyboardWidget &);
-    const auto onGrid = [this](EditToolBar::Tool tool, Command command) {
+    const auto onGrid = [this](EditToolBar::Tool tool, const std::function<void(KeyboardWidget &)> &command) {
         QAction *action = mpTools->action(tool);
         mpKeysView->addAction(action); // elsewhere the keys belong to the fields
         connect(action, &QAction::triggered, this, [this, command] {
             if (KeyboardWidget *grid = mpGridArea->grid())
-                (mpCommands->*command)(*grid);
+                command(*grid);
         });
     };
-    onGrid(EditToolBar::Cut, &KeyCommands::cut);
-    onGrid(EditToolBar::Copy, &KeyCommands::copy);
-    onGrid(EditToolBar::Paste, &KeyCommands::paste);
-    onGrid(EditToolBar::Delete, &KeyCommands::remove);
-    onGrid(EditToolBar::EveryPage, &KeyCommands::putOnEveryPage);
+    onGrid(EditToolBar::Cut, [this](KeyboardWidget &grid) { mpCommands->cut(grid); });
+    onGrid(EditToolBar::Copy, [this](KeyboardWidget &grid) { mpCommands->copy(grid); });
+    onGrid(EditToolBar::Paste, [this](KeyboardWidget &grid) { mpCommands->paste(grid); });
+    onGrid(EditToolBar::Delete, [this](KeyboardWidget &grid) { mpCommands->remove(grid); });
+    onGrid(EditToolBar::EveryPage, [this](KeyboardWidget &grid) { mpCommands->putOnEveryPage(grid); });
     for (const auto tool : {EditToolBar::Undo, EditToolBar::Redo})
         addAction(mpTools->action(tool));
     connect(mpTools->action(EditToolBar::Undo), &QAction::triggered, &mContext.edits, &KeyEdits::undo);
