@@ -28,14 +28,16 @@ void HandOver::post(std::function<void()> call)
 /// One event runs one call, the oldest: so the order holds even when a call runs an event loop of its own.
 bool HandOver::event(QEvent *event)
 {
-    if (event->type() != QEvent::User)
-        return QObject::event(event);
     std::function<void()> call;
     {
-        const std::lock_guard lock(mMutex);
-        call = std::move(mCalls.front());
-        mCalls.pop_front();
+        const std::lock_guard lock(mMutex); // the event was made under it, too
+        if (event->type() == QEvent::User && !mCalls.empty()) {
+            call = std::move(mCalls.front());
+            mCalls.pop_front();
+        }
     }
+    if (!call)
+        return QObject::event(event);
     call(); // may destroy this object
     return true;
 }
