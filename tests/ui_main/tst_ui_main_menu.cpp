@@ -3,6 +3,7 @@
 #include "resources/translationresources.h"
 #include "ui_common/messagebox.h"
 #include "ui_editor/functionconfigwidget.h"
+#include "ui_editor/keyboardwidget.h"
 #include "ui_editor/multiactionwidget.h"
 #include "ui_main/frameiconbutton.h"
 #include "ui_main/mainframe.h"
@@ -170,6 +171,25 @@ private slots:
         QTest::mouseClick(entry(3), Qt::LeftButton);
         QCOMPARE(pageInView(), 3);
         QVERIFY(mpWidget->close());
+    }
+
+    /// With the largest font that the program chooses by itself, which is that of 96 dots per inch.
+    void fitsIntoASmallScreen()
+    {
+        const QVector<int> functions{2, 3, 4, 15, 16, 17};
+        for (int i = 0; i < functions.size(); ++i)
+            mpContext->store.createKeyAttribute(1, 1, i + 1, functions.at(i));
+        auto *grid = mpWidget->findChild<KeyboardWidget *>();
+        for (const int language : {0, 1, 2}) {
+            mpContext->language.setLanguage(language);
+            for (int i = 0; i < functions.size(); ++i) {
+                grid->setCurrentKey(i + 1);
+                const QSize least = mpWidget->minimumSizeHint();
+                const QString where = QStringLiteral("language %1, function %2").arg(language).arg(functions.at(i));
+                const QString size = QStringLiteral("%1 x %2").arg(least.width()).arg(least.height());
+                QVERIFY2(least.width() <= 1024 && least.height() <= 640, qPrintable(where + u' ' + size));
+            }
+        }
     }
 
     void languageChangesEverywhereAtOnce()

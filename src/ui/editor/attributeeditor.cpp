@@ -62,7 +62,7 @@ bool AttributeEditor::setup()
     top->addWidget(mpHeader);
     top->addWidget(mpNotice, 1);
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(10, 4, 10, 6);
+    layout->setContentsMargins(6, 4, 6, 6);
     layout->setSpacing(AttributeStyle::RowGap);
     layout->addLayout(top);
     layout->addWidget(mpPages, 1);

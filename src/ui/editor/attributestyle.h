@@ -5,7 +5,7 @@ namespace AttributeStyle {
 
 inline constexpr int Gap = 4;        // pixels between what belongs together
 inline constexpr int RowGap = 6;     // between rows
-inline constexpr int ColumnGap = 14; // between columns
+inline constexpr int ColumnGap = 10; // between columns
 
 inline constexpr char Page[] = "QWidget {background-color: rgb(51, 51, 51);color: white;}";
 
@@ -14,7 +14,7 @@ inline constexpr char Parts[] =
     "QComboBox QLineEdit, QSpinBox QLineEdit {border: none;padding: 0px;}"
     "QComboBox:editable {padding: 3px 0px 3px 4px;}"
     "QComboBox::drop-down {border: none;width: 15px;}"
-    "QPushButton {padding: 4px 10px;}"
+    "QPushButton {padding: 4px 5px;}"
     "QPushButton[segment=\"true\"] {padding: 4px 3px;}"
     "QPushButton:checked {background-color: rgb(0, 160, 255);border-color: rgb(0, 160, 255);}"
     "#colourPalette {border: 1px solid rgb(108, 108, 108);}"
