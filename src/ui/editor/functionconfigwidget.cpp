@@ -86,7 +86,7 @@ bool FunctionConfigWidget::setup()
     }
     arrange();
     showPage(mKeyboardList.front(), mCurPageId, false);
-    retranslate();
+    showOwnTexts(); // the parts have theirs
     return true;
 }
 
@@ -243,11 +243,16 @@ void FunctionConfigWidget::refreshKeys()
     mpAttributes->refresh();
 }
 
-void FunctionConfigWidget::retranslate()
+void FunctionConfigWidget::showOwnTexts()
 {
     mpHint->setText(mContext.framework.languageManager()->Text(HintTextId));
     for (const KeyboardFrame &frame : mKeyboardList)
         mpLayoutBar->rename(frame.pLayoutButton, layoutName(frame));
+}
+
+void FunctionConfigWidget::retranslate()
+{
+    showOwnTexts();
     mpLayoutBar->retranslate();
     mpTools->retranslate();
     mpNotice->retranslate();

@@ -78,6 +78,7 @@ private:
     bool setupAttrFrame();
     bool setupMultipleActionWidget();
     void arrange();
+    void showOwnTexts();
     void connectTools();
     void connectPageKeys();
     void watchFocus();

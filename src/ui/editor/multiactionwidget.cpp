@@ -68,8 +68,6 @@ MultiActionWidget::MultiActionWidget(EditorContext &context, QWidget *parent)
     , mpReturn(makeButton("return", this))
 {
     setObjectName(QStringLiteral("multiActionWidget"));
-    setStyleSheet(QString::fromLatin1(StepStyle::Page) + QString::fromLatin1(Style::Fields) +
-                  QString::fromLatin1(Style::Button));
 }
 
 /// The list goes before the steps that it shows.
@@ -80,10 +78,18 @@ MultiActionWidget::~MultiActionWidget()
 
 bool MultiActionWidget::setup()
 {
+    return true; // the rest is built when it is first shown: most starts never do, and it costs time
+}
+
+void MultiActionWidget::ensureBuilt()
+{
+    if (layout())
+        return;
+    setStyleSheet(QString::fromLatin1(StepStyle::Page) + QString::fromLatin1(Style::Fields) +
+                  QString::fromLatin1(Style::Button));
     build();
     connectParts();
     retranslate();
-    return true;
 }
 
 void MultiActionWidget::build()
@@ -143,6 +149,8 @@ void MultiActionWidget::connectParts()
 
 void MultiActionWidget::retranslate()
 {
+    if (!layout())
+        return;
     const vorlindesk::LanguageManager &language = *mContext.framework.languageManager();
     mpTest->setText(tr("Test"));
     mpTest->setToolTip(tr("Runs the steps on this computer, as far as it can"));
@@ -160,6 +168,7 @@ void MultiActionWidget::retranslate()
 
 void MultiActionWidget::open(const key_id_t &key, int mainFid)
 {
+    ensureBuilt();
     mpRunner->stop();
     mKey = key;
     mMainFid = mainFid;

@@ -43,6 +43,7 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    void ensureBuilt();
     void build();
     void connectParts();
     void load();
