@@ -1,5 +1,5 @@
-/// The figures of the editor: the whole program in this process, and the virtual panel's server beside it. Run it through
-/// scripts/bench, on an X display.
+/// The figures of the editor: the whole program in this process, and the virtual panel's server beside it.
+/// Run it through scripts/bench, on an X display.
 #include "app/frameworkcontext.h"
 #include "base/log.h"
 #include "base/paths.h"
@@ -65,8 +65,8 @@ bool waitFor(Condition condition)
 void print(const char *what, std::vector<double> times)
 {
     std::sort(times.begin(), times.end());
-    std::printf("%s, %d times: median %.2f ms, 99th percentile %.2f ms, longest %.2f ms\n", what, int(times.size()),
-                times[times.size() / 2], times[times.size() * 99 / 100], times.back());
+    std::printf("%s, %d times: median %.2f ms, 99th percentile %.2f ms, longest %.2f ms\n", what,
+                int(times.size()), times[times.size() / 2], times[times.size() * 99 / 100], times.back());
 }
 
 void fillStore(vorlinmodel::IFunctionManager &store, const QString &folder)
@@ -143,7 +143,9 @@ void measureDrop(PanelServer &server, KeyWidget &cell)
         data.setData(QString::fromLatin1(DragFormat::FunctionId), bytes);
         QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         const auto quiet = std::chrono::milliseconds(QRandomGenerator::global()->bounded(150, 250));
-        waitFor([&] { return Clock::now() - server.lastReport() > quiet; }); // out of step with the program's loop
+        waitFor([&] {
+            return Clock::now() - server.lastReport() > quiet;
+        }); // out of step with the program's loop
         QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&cell, &enter); // whoever is entered is the target of the drop
         const auto start = Clock::now();

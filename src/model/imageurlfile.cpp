@@ -46,7 +46,8 @@ constexpr QLatin1String AppOrUrl("appOrUrl");
 
 const QLatin1String ResourcePrefix(":/");
 
-/// Pixels. The largest key, all 15 in one, has 450 x 252; a camera's pictures would fill disk and history in vain.
+/// Pixels. The largest key, all 15 in one, has 450 x 252; a camera's pictures would fill disk and history in
+/// vain.
 constexpr int LargestSide = 1024;
 
 struct Item
@@ -85,8 +86,8 @@ bool readPicture(Item &item)
     return true;
 }
 
-/// @return the picture as it is kept; null when the bytes stay as they are: small PNGs, and what cannot be decoded
-/// within the limits, which is rather kept than lost.
+/// @return the picture as it is kept; null when the bytes stay as they are: small PNGs, and what cannot be
+/// decoded within the limits, which is rather kept than lost.
 QImage keptPicture(const QByteArray &bytes)
 {
     const QImage image = decodePicture(bytes);

@@ -33,7 +33,7 @@ public:
     QString title(const key_id_t &key) const;
     QString dump(const key_id_t &key) const; ///< the record in one line, for the log
 
-    void setCustomImage(const key_id_t &key, const QString &path); ///< also shows it
+    void setCustomImage(const key_id_t &key, const QString &path);                     ///< also shows it
     bool moveCustomImage(const key_id_t &key, const QString &from, const QString &to); ///< if it is @p from
     void setCustomVideo(const key_id_t &key, const QString &path); ///< into the default image
     void setImageEffects(const key_id_t &key, int value);

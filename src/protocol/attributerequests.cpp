@@ -104,8 +104,8 @@ void writeFunctionId(const Write &write)
     write.context.functions.note(write.key, sent ? fid : WrittenFunctions::Unknown);
 }
 
-/// The store has moved on since the panel got its function: the request that brings the new one waits in the queue,
-/// and behind it the one with this content. Until then it would be read as what it is not.
+/// The store has moved on since the panel got its function: the request that brings the new one waits in the
+/// queue, and behind it the one with this content. Until then it would be read as what it is not.
 bool isAheadOfFunction(const Write &write)
 {
     return write.context.functions.differs(write.key, write.record->mFId);

@@ -18,8 +18,8 @@ namespace vorlinmodel {
 
 class IFunctionManager;
 
-/// The function ids that were written to the panel, by key; for content, which means something else under each
-/// function.
+/// The function ids that were written to the panel, by key; for content, which means something else under
+/// each function.
 class WrittenFunctions
 {
 public:

@@ -64,9 +64,11 @@ private slots:
         QTest::newRow("no panel") << false << -1 << 6U << int(RequestOutcome::NoPanel);
         QTest::newRow("a report that fails") << true << 0 << 6U << int(RequestOutcome::Failed);
         // The transfer counts as a success then, but the panel does not have all of it.
-        QTest::newRow("the last block of a picture fails") << true << 1 << 6000U << int(RequestOutcome::Failed);
+        QTest::newRow("the last block of a picture fails")
+            << true << 1 << 6000U << int(RequestOutcome::Failed);
         QTest::newRow("a picture that cannot be read") << true << -1 << 9U << int(RequestOutcome::Unreadable);
-        QTest::newRow("a key without a record: nothing to send") << true << -1 << 1000U << int(RequestOutcome::Sent);
+        QTest::newRow("a key without a record: nothing to send")
+            << true << -1 << 1000U << int(RequestOutcome::Sent);
     }
 
     void outcomes()

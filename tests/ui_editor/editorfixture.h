@@ -55,8 +55,8 @@ public:
         PanelState copy = mPanel.state();
         // What is shared would be let go without the lock, which the thread checker misreads.
         for (PanelKey &key : copy.keys) {
-            for (QByteArray *bytes : {&key.record.title, &key.record.content, &key.content, &key.picture, &key.video,
-                                      &key.actions})
+            for (QByteArray *bytes : {&key.record.title, &key.record.content, &key.content, &key.picture,
+                                      &key.video, &key.actions})
                 *bytes = QByteArray(bytes->constData(), bytes->size());
         }
         return copy;
@@ -115,8 +115,8 @@ private:
     std::vector<QString> mMessages; // no list of Qt: see FakeHid::State
 };
 
-/// With Panel::None requests are only written down, and no thread runs. With Panel::Present or Panel::Absent the real
-/// protocol thread talks with a panel in software.
+/// With Panel::None requests are only written down, and no thread runs. With Panel::Present or Panel::Absent
+/// the real protocol thread talks with a panel in software.
 class EditorFixture : public vorlindesk::IFrameworkContext
 {
     Q_OBJECT
@@ -176,9 +176,11 @@ public:
     void sendRequest(vorlinmodel::RequestKind kind, int layoutId, int pageId, int keyId, int functionId,
                      int attributeId) override
     {
-        const QString ids = QStringLiteral("%1: %2 %3 %4").arg(int(kind)).arg(layoutId).arg(pageId).arg(keyId);
+        const QString ids =
+            QStringLiteral("%1: %2 %3 %4").arg(int(kind)).arg(layoutId).arg(pageId).arg(keyId);
         requests.append(QStringLiteral("%1, fid %2, id %3").arg(ids).arg(functionId).arg(attributeId));
-        post(kind, quint32(layoutId), quint32(pageId), quint32(keyId), quint32(functionId), quint32(attributeId));
+        post(kind, quint32(layoutId), quint32(pageId), quint32(keyId), quint32(functionId),
+             quint32(attributeId));
     }
     void sendRequest(vorlinmodel::RequestKind kind, int layoutId, int pageId) override
     {
@@ -208,7 +210,8 @@ public:
     vorlinmodel::FunctionManager store;
     std::unique_ptr<PanelBehindFake> panel;
     std::unique_ptr<EditorContext> context; ///< null until editor() is called
-    QStringList requests; ///< "kind: layout page key, fid n, id n", "kind: layout page", "kind: n", "dialog id: ms"
+    QStringList
+        requests; ///< "kind: layout page key, fid n, id n", "kind: layout page", "kind: n", "dialog id: ms"
 
 private:
     void post(vorlinmodel::RequestKind kind, quint32 layoutId, quint32 pageId = 0, quint32 keyId = 0,

@@ -96,9 +96,9 @@ private slots:
         QVERIFY(!edits.store().getKeyAttribute(Key));
         edits.redo();
         edits.redo();
-        QCOMPARE(fixture.takeRequests(),
-                 QStringList({QStringLiteral("1: 1 1 3, fid 5, id 8"), QStringLiteral("1: 1 1 3, fid 5, id 9"),
-                              QStringLiteral("1: 1 1 3, fid 5, id 6")}));
+        QCOMPARE(fixture.takeRequests(), QStringList({QStringLiteral("1: 1 1 3, fid 5, id 8"),
+                                                      QStringLiteral("1: 1 1 3, fid 5, id 9"),
+                                                      QStringLiteral("1: 1 1 3, fid 5, id 6")}));
         QCOMPARE(edits.store().getTitleText(Key), QStringLiteral("a"));
     }
 
@@ -148,19 +148,24 @@ private slots:
             state.record->strTitle = QStringLiteral("x");
             state.record->titleFontSize = 20;
         };
-        const auto address = [](KeyState &state) { state.record->strAppOrUrl = QStringLiteral("http://a"); };
-        const auto steps = [](KeyState &state) { state.steps = {{3, 0, QStringLiteral("a")}}; };
+        const auto address = [](KeyState &state) {
+            state.record->strAppOrUrl = QStringLiteral("http://a");
+        };
+        const auto steps = [](KeyState &state) {
+            state.steps = {{3, 0, QStringLiteral("a")}};
+        };
         QTest::newRow("a free key stays free") << KeyState() << KeyState() << QVector<int>{};
         QTest::newRow("cleared") << stateOf(5, titled) << KeyState() << QVector<int>{13};
         QTest::newRow("new, with the defaults") << KeyState() << stateOf(5) << QVector<int>{8, 9};
         QTest::newRow("new, with values") << KeyState() << stateOf(5, titled) << QVector<int>{8, 9, 7, 6};
-        QTest::newRow("replaced: what the panel would keep") << stateOf(5, titled) << stateOf(6)
-                                                             << QVector<int>{8, 9, 7, 6};
-        QTest::newRow("an address that became a text") << stateOf(3, address) << stateOf(15)
-                                                       << QVector<int>{8, 9, 17};
-        QTest::newRow("an address that nothing follows") << stateOf(3, address) << stateOf(5)
-                                                         << QVector<int>{8, 9, 11};
-        QTest::newRow("steps that nothing follows") << stateOf(4, steps) << stateOf(5) << QVector<int>{8, 9, 15};
+        QTest::newRow("replaced: what the panel would keep")
+            << stateOf(5, titled) << stateOf(6) << QVector<int>{8, 9, 7, 6};
+        QTest::newRow("an address that became a text")
+            << stateOf(3, address) << stateOf(15) << QVector<int>{8, 9, 17};
+        QTest::newRow("an address that nothing follows")
+            << stateOf(3, address) << stateOf(5) << QVector<int>{8, 9, 11};
+        QTest::newRow("steps that nothing follows")
+            << stateOf(4, steps) << stateOf(5) << QVector<int>{8, 9, 15};
         QTest::newRow("one value") << stateOf(3) << stateOf(3, address) << QVector<int>{11};
         QTest::newRow("steps") << stateOf(4) << stateOf(4, steps) << QVector<int>{15};
         QTest::newRow("no picture to send") << KeyState() << stateOf(11) << QVector<int>{8};
@@ -243,7 +248,7 @@ private slots:
         drop(fixture, Key, 5);
         setTitle(fixture, Key, QStringLiteral("标题"));
         QTRY_VERIFY(QFile::exists(fixture.path("devConfig/image/imageUrl.ini"))); // by itself, after the rest
-        setTitle(fixture, Key, QStringLiteral("later")); // and at the end
+        setTitle(fixture, Key, QStringLiteral("later"));                          // and at the end
         fixture.restart();
         QCOMPARE(fixture.store.getTitleText(Key), QStringLiteral("later"));
     }

@@ -185,7 +185,8 @@ private slots:
             for (int i = 0; i < functions.size(); ++i) {
                 grid->setCurrentKey(i + 1);
                 const QSize least = mpWidget->minimumSizeHint();
-                const QString where = QStringLiteral("language %1, function %2").arg(language).arg(functions.at(i));
+                const QString where =
+                    QStringLiteral("language %1, function %2").arg(language).arg(functions.at(i));
                 const QString size = QStringLiteral("%1 x %2").arg(least.width()).arg(least.height());
                 QVERIFY2(least.width() <= 1024 && least.height() <= 640, qPrintable(where + u' ' + size));
             }

@@ -1,7 +1,8 @@
-/// Takes the pictures of the documentation: shows the real window, with the demonstration of the virtual panel behind it,
-/// uses it by mouse and keys, and saves what it looks like.
+/// Takes the pictures of the documentation: shows the real window, with the demonstration of the virtual
+/// panel behind it, uses it by mouse and keys, and saves what it looks like.
 ///
-/// Usage: screenshots FOLDER [SUFFIX]   with VIRTUAL_PANEL_PORT set to a free port. SUFFIX goes behind each file's name.
+/// Usage: screenshots FOLDER [SUFFIX]   with VIRTUAL_PANEL_PORT set to a free port. SUFFIX goes behind each
+/// file's name.
 #include "app/frameworkcontext.h"
 #include "base/language.h"
 #include "base/systemsettings.h"
@@ -82,7 +83,8 @@ public:
         }
         const auto send = [target](QEvent::Type type) {
             QMouseEvent event(type, target->rect().center(), Qt::LeftButton,
-                              type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+                              type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
+                              Qt::NoModifier);
             QCoreApplication::sendEvent(target, &event);
         };
         send(QEvent::MouseButtonPress);
@@ -179,7 +181,8 @@ int main(int argc, char *argv[])
     Photographer photographer(*window, pictures, suffix);
     const vorlinmodel::key_id_t lastKey{1, 12, vorlinmodel::LastKeyId}; // of the demonstration
     const auto isRead = [&] {
-        return context.functionManager()->getKeyAttribute(lastKey) && !context.functionManager()->getModeFlag() &&
+        return context.functionManager()->getKeyAttribute(lastKey) &&
+               !context.functionManager()->getModeFlag() &&
                window->findChild<FunctionConfigWidget *>()->isEnabled();
     };
     if (!photographer.waitUntil(isRead)) {

@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <memory>
 #include <utility>
 
 namespace vorlindesk {
@@ -22,6 +21,11 @@ void HandOver::post(std::function<void()> call)
         event =
             std::make_unique<QEvent>(QEvent::User); // under the lock: its memory is freed on the other thread
     }
+    wake(std::move(event));
+}
+
+void HandOver::wake(std::unique_ptr<QEvent> event)
+{
     QCoreApplication::postEvent(this, event.release());
 }
 

@@ -4,6 +4,7 @@
 #include <QObject>
 #include <deque>
 #include <functional>
+#include <memory>
 #include <mutex>
 
 namespace vorlindesk {
@@ -25,6 +26,9 @@ protected:
     bool event(QEvent *event) override;
 
 private:
+    /// Never inlined: the thread checker names only the callers of what calls into Qt; post() has to be one.
+    Q_NEVER_INLINE void wake(std::unique_ptr<QEvent> event);
+
     std::mutex mMutex;
     std::deque<std::function<void()>> mCalls;
 };

@@ -12,3 +12,18 @@ QImage knownPicture(const QString &path, const char *format)
         return {};
     return reader.read();
 }
+
+QImage anyPicture(const QString &path, QSize target, Qt::AspectRatioMode mode)
+{
+    constexpr int largestSide = 16384;
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (size.isEmpty() || size.width() > largestSide || size.height() > largestSide)
+        return {};
+    const QSize scaled = size.scaled(target, mode);
+    if (scaled.width() < size.width())
+        reader.setScaledSize(scaled);
+    return reader.read();
+}

@@ -1,4 +1,4 @@
-/// Pictures whose format is known.
+/// Pictures from files and resources, read within limits.
 #pragma once
 
 #include <QImage>
@@ -9,3 +9,9 @@
 /// program most of its time.
 /// @return a null image when it is none, or has more than 4096 pixels a side.
 QImage knownPicture(const QString &path, const char *format);
+
+/// Reads a picture of any format, which its content decides, turned as its camera says. One that is larger
+/// than the target is made smaller while it is decoded, with @p mode as in QSize::scaled().
+/// @return a null image when it is none, or has more than 16384 pixels a side; a camera's pictures have
+/// fewer.
+QImage anyPicture(const QString &path, QSize target, Qt::AspectRatioMode mode);

@@ -19,7 +19,8 @@ struct Question
     QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
     QMessageBox::StandardButton preset = QMessageBox::Yes; ///< chosen by Enter
     QString styleSheet = {};                               ///< the dark style when empty
-    QHash<int, QString> captions = {}; ///< other texts for buttons, by StandardButton, in the person's language
+    QHash<int, QString> captions =
+        {}; ///< other texts for buttons, by StandardButton, in the person's language
 };
 
 /// Asks and waits for the answer; Escape and closing the box count as Cancel, or as No where there is no

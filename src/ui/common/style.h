@@ -14,9 +14,8 @@ inline constexpr char Window[] = "#mainwindow {background-color:rgb(255,255,255)
 inline constexpr char MainFrame[] =
     "#mainframe, #mainframe QLabel {background-color: rgb(51, 51, 51);color: white;}";
 // Its border and background are its own; this is the rest.
-inline constexpr char HomeButton[] =
-    "#homeButton {color: white;padding: 8px 24px;margin: 8px 0 0 8px;}"
-    "#homeButton:hover, #homeButton:focus {color: rgb(0, 160, 255);}";
+inline constexpr char HomeButton[] = "#homeButton {color: white;padding: 8px 24px;margin: 8px 0 0 8px;}"
+                                     "#homeButton:hover, #homeButton:focus {color: rgb(0, 160, 255);}";
 // Context menus, wherever they open.
 inline constexpr char Menu[] =
     "QMenu {background-color: rgb(36, 36, 36);color: white;border: 1px solid rgb(108, 108, 108);}"
@@ -28,14 +27,16 @@ inline constexpr char Menu[] =
 inline constexpr char ScrollBars[] =
     "QScrollBar:vertical {background-color: transparent;width: 10px;margin: 0px;}"
     "QScrollBar:horizontal {background-color: transparent;height: 10px;margin: 0px;}"
-    "QScrollBar::handle {background-color: rgb(92, 92, 92);border-radius: 4px;min-height: 20px;min-width: 20px;}"
+    "QScrollBar::handle {background-color: rgb(92, 92, 92);border-radius: 4px;min-height: 20px;min-width: "
+    "20px;}"
     "QScrollBar::handle:hover {background-color: rgb(108, 108, 108);}"
     "QScrollBar::add-line, QScrollBar::sub-line {width: 0px;height: 0px;}"
     "QScrollBar::add-page, QScrollBar::sub-page {background-color: transparent;}";
 // The pages beside the editor.
 inline constexpr char Page[] =
     "QLabel, QRadioButton {color: white;font-size: 14px;}"
-    "QRadioButton::indicator {width: 14px;height: 14px;border: 2px solid rgb(160, 160, 160);border-radius: 9px;}"
+    "QRadioButton::indicator {width: 14px;height: 14px;border: 2px solid rgb(160, 160, 160);border-radius: "
+    "9px;}"
     "QRadioButton::indicator:checked {background-color: rgb(0, 160, 255);border-color: white;}"
     "QRadioButton:focus {color: rgb(0, 160, 255);}"
     "QLineEdit, QListWidget, QPushButton {font-size: 14px;}"
@@ -56,16 +57,19 @@ inline constexpr char GalleryFrame[] =
 inline constexpr char MessageBox[] =
     "QMessageBox {background-color: rgb(51, 51, 51);} "
     "QMessageBox QLabel {color: white;background-color: transparent;} "
-    "QMessageBox QPushButton {background-color: rgb(70, 70, 70);color: white;border: 1px solid rgb(108, 108, 108);"
+    "QMessageBox QPushButton {background-color: rgb(70, 70, 70);color: white;border: 1px solid rgb(108, 108, "
+    "108);"
     "border-radius: 4px;padding: 6px 16px;min-width: 60px;} "
     "QMessageBox QPushButton:hover, QMessageBox QPushButton:focus {border-color: rgb(0, 160, 255);} ";
 
 // What people type and choose in, on a dark page.
 inline constexpr char Fields[] =
-    "QLineEdit, QPlainTextEdit, QSpinBox, QComboBox, QListWidget, QListView {background-color: rgb(36, 36, 36);"
+    "QLineEdit, QPlainTextEdit, QSpinBox, QComboBox, QListWidget, QListView {background-color: rgb(36, 36, "
+    "36);"
     "color: white;border: 1px solid rgb(92, 92, 92);border-radius: 4px;padding: 3px 6px;"
     "selection-background-color: rgb(0, 160, 255);selection-color: white;}"
-    "QLineEdit:focus, QPlainTextEdit:focus, QSpinBox:focus, QComboBox:focus, QListWidget:focus, QListView:focus"
+    "QLineEdit:focus, QPlainTextEdit:focus, QSpinBox:focus, QComboBox:focus, QListWidget:focus, "
+    "QListView:focus"
     " {border-color: rgb(0, 160, 255);}"
     "QLineEdit:disabled, QPlainTextEdit:disabled, QSpinBox:disabled, QComboBox:disabled"
     " {color: rgb(108, 108, 108);border-color: rgb(70, 70, 70);}"

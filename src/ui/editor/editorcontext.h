@@ -32,11 +32,12 @@ struct EditorContext
     vorlindesk::IFrameworkContext &framework;
     KeyEdits edits;
     KeyFaces faces;
-    bool childrenForm = false; ///< the page in view is a child page
+    bool childrenForm = false;                   ///< the page in view is a child page
     std::array<ChildPageEntry, 16> childPages{}; ///< by key id, 1 to 15
 
-    /// Whoever deletes keys at the person's wish (menu, Delete, cut) calls this when it is set, else @p remove itself:
-    /// the page asks first what may be lost with them (the keys of child pages), and then runs @p remove inside
-    /// one step of the history, or not at all.
-    std::function<void(const QVector<vorlinmodel::key_id_t> &keys, const std::function<void()> &remove)> deleteKeys;
+    /// Whoever deletes keys at the person's wish (menu, Delete, cut) calls this when it is set, else @p
+    /// remove itself: the page asks first what may be lost with them (the keys of child pages), and then runs
+    /// @p remove inside one step of the history, or not at all.
+    std::function<void(const QVector<vorlinmodel::key_id_t> &keys, const std::function<void()> &remove)>
+        deleteKeys;
 };

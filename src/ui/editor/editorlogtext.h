@@ -9,7 +9,8 @@ inline constexpr char DescriptorPage[] = "----mPageId=%d";
 inline constexpr char DescriptorKey[] = "----mKeyId=%d";
 inline constexpr char DescriptorBitMap[] = "----mBitMap=%u";
 inline constexpr char DescriptorCount[] = "----mPhyKeyCount=%d";
-inline constexpr char GridSetup[] = "KeyboardWidget::setup  LayoutId:%d pageid:%d\n"; // the two blanks are wanted
+inline constexpr char GridSetup[] =
+    "KeyboardWidget::setup  LayoutId:%d pageid:%d\n"; // the two blanks are wanted
 inline constexpr char CustomLayoutStart[] = "-----setupCustomLayout--layoutid[%d]--start\n";
 inline constexpr char CustomLayoutRead[] = "------nNum/strName=%d/%s";
 inline constexpr char CustomLayoutEnd[] = "-----setupCustomLayout--layoutid[%d]--end\n";
@@ -49,7 +50,8 @@ inline constexpr char SetLayoutAndPage[] =
     "-----setKeyboardCurLayoutAndPage-------nLayoutId[%d]/mKeyboardList.size=%d\n";
 inline constexpr char PageBeyondMaximum[] = "setKeyboardCurLayoutAndPage nPageId[%d] > mMaxPage[%d]!";
 inline constexpr char SelectPage[] = "-------onKeyboardSelPageButtonClicked-----nSelPageId=%d";
-inline constexpr char OpenChildPage[] = "--double click---FunctionConfigWidget---CHILDREN_PAGE_FID---------nKeyoutId=%d";
+inline constexpr char OpenChildPage[] =
+    "--double click---FunctionConfigWidget---CHILDREN_PAGE_FID---------nKeyoutId=%d";
 inline constexpr char ChildPageEntry[] = "nSelLayoutId/nSelPageId=%d %d\n";
 inline constexpr char ReturnToMain[] = "--double click---FunctionConfigWidget---RETURN_MAIN_FID---------";
 inline constexpr char ConfigurationRead[] = "-----------MD_FUNCTION_CODE_READ_CONFIGFILE-----";

@@ -33,13 +33,7 @@ constexpr char ListStyle[] =
     "QListWidget::item {border-radius: 4px;padding: 0px 4px;}"
     "QListWidget::item:hover {background-color: rgb(62, 62, 62);}"
     "QListWidget::item:selected {background-color: rgb(0, 160, 255);color: white;}"
-    "QListWidget::item:disabled {color: rgb(160, 160, 160);background-color: transparent;}"
-    "QScrollBar:vertical {background-color: transparent;width: 10px;margin: 0px;}"
-    "QScrollBar::handle:vertical {background-color: rgb(92, 92, 92);border-radius: 4px;min-height: "
-    "30px;margin: 1px;}"
-    "QScrollBar::handle:vertical:hover {background-color: rgb(108, 108, 108);}"
-    "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical {height: 0px;}"
-    "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical {background-color: transparent;}";
+    "QListWidget::item:disabled {color: rgb(160, 160, 160);background-color: transparent;}";
 
 bool isOffered(int fid, FunctionList::Mode mode)
 {

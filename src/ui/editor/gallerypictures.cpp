@@ -2,6 +2,7 @@
 
 #include "base/paths.h"
 #include "model/wholefile.h"
+#include "ui_common/knownpicture.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -11,7 +12,6 @@
 
 namespace {
 
-constexpr int LargestSide = 16384;                 // pixels; a camera's pictures are below
 constexpr qint64 LargestFile = 32LL * 1024 * 1024; // bytes; keys keep no larger picture
 constexpr QSize ProofSize(64, 64);
 
@@ -96,15 +96,7 @@ QImage GalleryPictures::read(const QString &path, QSize target)
 {
     if (formatOf(path).isEmpty())
         return {};
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (size.isEmpty() || size.width() > LargestSide || size.height() > LargestSide)
-        return {};
-    if (size.width() > target.width() && size.height() > target.height())
-        reader.setScaledSize(size.scaled(target, Qt::KeepAspectRatioByExpanding));
-    return reader.read();
+    return anyPicture(path, target, Qt::KeepAspectRatioByExpanding);
 }
 
 GalleryPictures::Added GalleryPictures::add(const QStringList &files)

@@ -49,7 +49,8 @@ QVector<CopiedKey> copiedKeys()
         CopiedKey key;
         stream >> keyId >> key.state;
         key.keyId = keyId;
-        if (stream.status() != QDataStream::Ok || keyId < vorlinmodel::FirstKeyId || keyId > vorlinmodel::LastKeyId)
+        if (stream.status() != QDataStream::Ok || keyId < vorlinmodel::FirstKeyId ||
+            keyId > vorlinmodel::LastKeyId)
             return {};
         keys.append(key);
     }
@@ -98,7 +99,9 @@ QVector<KeyPlacement> KeyClipboard::placements(const QVector<key_id_t> &targets)
             result.append({target, keys.first().state});
         return result;
     }
-    const auto byKeyId = [](const CopiedKey &a, const CopiedKey &b) { return a.keyId < b.keyId; };
+    const auto byKeyId = [](const CopiedKey &a, const CopiedKey &b) {
+        return a.keyId < b.keyId;
+    };
     const int first = std::min_element(keys.cbegin(), keys.cend(), byKeyId)->keyId;
     for (const CopiedKey &key : keys) {
         const KeyPlacement placement = shifted(key, first, targets.first());

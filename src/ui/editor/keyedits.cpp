@@ -91,8 +91,7 @@ KeyEdits::States KeyEdits::capture(const QVector<key_id_t> &keys) const
     return captureKeyStates(mStore, keys);
 }
 
-void KeyEdits::change(const QString &text, const QVector<key_id_t> &keys,
-                      const std::function<void()> &change)
+void KeyEdits::change(const QString &text, const QVector<key_id_t> &keys, const std::function<void()> &change)
 {
     if (mDepth == 0) {
         flush();
@@ -217,7 +216,8 @@ void KeyEdits::setRecord(const KeyPlacement &placement, const KeyState &now)
     if (!placement.state.picture.isEmpty()) {
         // The file under the state's own path may have another content by now, or belong to another key.
         const bool isThere = now.record && now.picture == placement.state.picture;
-        const QString kept = isThere ? now.record->customImage : StoreFiles::keepPicture(placement.state.picture);
+        const QString kept =
+            isThere ? now.record->customImage : StoreFiles::keepPicture(placement.state.picture);
         if (kept.isEmpty())
             emit sigProblem(tr("A picture could not be saved. Is the disk full?"));
         else

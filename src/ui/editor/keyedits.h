@@ -34,17 +34,17 @@ struct KeyPlacement
 /// @return the keys of @p placements, in their order.
 QVector<vorlinmodel::key_id_t> placedKeys(const QVector<KeyPlacement> &placements);
 
-/// User-interface thread only. A step of the history is the states of its keys before and after; undo and redo put
-/// one of them back, and send the panel what differs from the present.
+/// User-interface thread only. A step of the history is the states of its keys before and after; undo and
+/// redo put one of them back, and send the panel what differs from the present.
 class KeyEdits : public QObject
 {
     Q_OBJECT
 public:
-    static constexpr int Rest = 300;      ///< ms without typing or sliding, after which a value is sent
+    static constexpr int Rest = 300; ///< ms without typing or sliding, after which a value is sent
     static constexpr int HistoryLimit = 500;
 
-    /// Loads what the last run has saved. @p context outlives this object, while its protocol thread has to end
-    /// before it.
+    /// Loads what the last run has saved. @p context outlives this object, while its protocol thread has to
+    /// end before it.
     explicit KeyEdits(vorlindesk::IFrameworkContext &context, QObject *parent = nullptr);
     ~KeyEdits() override; ///< sends nothing more; what is not saved is saved
 
@@ -53,16 +53,16 @@ public:
     QUndoStack &history() { return mHistory; }
     const PendingEdits &pending() const { return mPending; }
 
-    /// One step: @p change alters @p keys in the store (and their steps and files) and sends what is needed. May be
-    /// called within another change(), of whose step it then becomes part. A change that changes nothing leaves
-    /// no step. @p text names the step ("Undo: %1").
+    /// One step: @p change alters @p keys in the store (and their steps and files) and sends what is needed.
+    /// May be called within another change(), of whose step it then becomes part. A change that changes
+    /// nothing leaves no step. @p text names the step ("Undo: %1").
     void change(const QString &text, const QVector<vorlinmodel::key_id_t> &keys,
                 const std::function<void()> &change);
 
-    /// For typing and sliding: @p apply sets one value in the store now; once no other comes for Rest ms, or anything
-    /// else happens, the attribute is sent and the step recorded.
-    void changeAtRest(const QString &text, const vorlinmodel::key_id_t &key, vorlinmodel::AttributeId attribute,
-                      const std::function<void()> &apply);
+    /// For typing and sliding: @p apply sets one value in the store now; once no other comes for Rest ms, or
+    /// anything else happens, the attribute is sent and the step recorded.
+    void changeAtRest(const QString &text, const vorlinmodel::key_id_t &key,
+                      vorlinmodel::AttributeId attribute, const std::function<void()> &apply);
     void flush(); ///< ends such a change now
 
     /// One step that gives each key a state: paste, move, swap, copy. A key named twice gets the last one.
@@ -81,11 +81,11 @@ public:
     /// over.
     void sendPending();
 
-    /// Around a read of the panel's configuration, which overwrites the store. Edits that the panel has not taken
-    /// survive it.
+    /// Around a read of the panel's configuration, which overwrites the store. Edits that the panel has not
+    /// taken survive it.
     void beginRead();
-    /// @p whole: the panel sent all it has, so that keys not in @p received are gone. @p received: every key of
-    /// every page that came. A difference that a person would notice becomes a step.
+    /// @p whole: the panel sent all it has, so that keys not in @p received are gone. @p received: every key
+    /// of every page that came. A difference that a person would notice becomes a step.
     void endRead(bool whole, const QVector<vorlinmodel::key_id_t> &received);
 
     bool saveNow() { return mFiles.saveNow(); } ///< @return false when a file could not be written
@@ -129,8 +129,8 @@ private:
     PendingEdits mPending;
     StoreFiles mFiles;
     QUndoStack mHistory;
-    int mDepth = 0;  ///< of nested change() calls
-    States mBefore;  ///< of the outermost one
+    int mDepth = 0; ///< of nested change() calls
+    States mBefore; ///< of the outermost one
     std::optional<AtRest> mAtRest;
     QTimer mRestTimer;
     States mBeforeRead;

@@ -2,28 +2,19 @@
 
 #include "model/functionids.h"
 #include "model/ifunctionmanager.h"
+#include "ui_common/knownpicture.h"
 #include "videoframes.h"
 
 #include <QFileInfo>
-#include <QImageReader>
 
 namespace {
 
 constexpr int CacheSize = 64 * 1024; // KiB of decoded pictures
-constexpr int LargestSide = 16384;   // pixels; a camera's pictures are below
 constexpr int LargestShown = 1024;   // pixels a side that are kept of a large picture: cells are smaller
 
 QImage decoded(const QString &path)
 {
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (size.isEmpty() || size.width() > LargestSide || size.height() > LargestSide)
-        return {};
-    if (size.width() > LargestShown || size.height() > LargestShown)
-        reader.setScaledSize(size.scaled(LargestShown, LargestShown, Qt::KeepAspectRatio));
-    return reader.read();
+    return anyPicture(path, {LargestShown, LargestShown}, Qt::KeepAspectRatio);
 }
 
 } // namespace

@@ -23,8 +23,9 @@ public:
     explicit KeyFaces(const vorlinmodel::IFunctionManager &store, QObject *parent = nullptr);
     ~KeyFaces() override;
 
-    /// The face of a key; an empty one when it has no function. A picture file that has not changed is not decoded
-    /// again. A video shows its first frame, once that is there (sigFaceReady), until then the key's picture.
+    /// The face of a key; an empty one when it has no function. A picture file that has not changed is not
+    /// decoded again. A video shows its first frame, once that is there (sigFaceReady), until then the key's
+    /// picture.
     vorlinmodel::KeyFace face(const vorlinmodel::key_id_t &key);
 
     /// A picture from a file or resource; null when it is none or has more than 16384 pixels a side.

@@ -102,8 +102,8 @@ QString textOf(const KeyState &state)
     return state.record ? state.record->strAppOrUrl : QString();
 }
 
-/// A panel keeps the content of a key whose function changes, although it means something else then; the id of
-/// addresses empties it for functions that have none of their own.
+/// A panel keeps the content of a key whose function changes, although it means something else then; the id
+/// of addresses empties it for functions that have none of their own.
 void addContent(Attributes &ids, const KeyState &from, const KeyState &to)
 {
     const bool readAnew = from.fid() != to.fid() && !(textOf(from).isEmpty() && textOf(to).isEmpty());
@@ -122,8 +122,8 @@ bool hasPicture(const key_atttribute_t &record)
 
 bool KeyState::hasOwnPicture() const
 {
-    return record && record->nDisplayImageType != vorlinmodel::DefaultImage && !record->customImage.isEmpty() &&
-           !record->customImage.startsWith(QLatin1Char(':'));
+    return record && record->nDisplayImageType != vorlinmodel::DefaultImage &&
+           !record->customImage.isEmpty() && !record->customImage.startsWith(QLatin1Char(':'));
 }
 
 KeyState captureKeyState(const vorlinmodel::IFunctionManager &store, const key_id_t &key)
@@ -131,7 +131,8 @@ KeyState captureKeyState(const vorlinmodel::IFunctionManager &store, const key_i
     return captureKeyStates(store, {key}).value(key);
 }
 
-QMap<key_id_t, KeyState> captureKeyStates(const vorlinmodel::IFunctionManager &store, const QVector<key_id_t> &keys)
+QMap<key_id_t, KeyState> captureKeyStates(const vorlinmodel::IFunctionManager &store,
+                                          const QVector<key_id_t> &keys)
 {
     QMap<key_id_t, KeyState> states;
     std::optional<QMap<key_id_t, QVector<vorlinmodel::MultiAction>>> steps;
@@ -160,9 +161,9 @@ bool sameKey(const KeyState &left, const KeyState &right)
     const key_atttribute_t &b = *right.record;
     a.customImage = b.customImage;
     a.titleColour = b.titleColour;
-    return samePicture(left, right) && a == b && left.record->titleColour.rgb() == b.titleColour.rgb() && left.steps == right.steps &&
-           left.home.layoutId == right.home.layoutId && left.home.pageId == right.home.pageId &&
-           left.home.sum == right.home.sum;
+    return samePicture(left, right) && a == b && left.record->titleColour.rgb() == b.titleColour.rgb() &&
+           left.steps == right.steps && left.home.layoutId == right.home.layoutId &&
+           left.home.pageId == right.home.pageId && left.home.sum == right.home.sum;
 }
 
 bool sameFunction(const KeyState &left, const KeyState &right)

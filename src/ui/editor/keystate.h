@@ -22,11 +22,12 @@ class IFunctionManager;
 struct KeyState
 {
     std::optional<vorlinmodel::key_atttribute_t> record; ///< none: the key has no function
-    /// Content of the key's own picture, since the file under its path changes. Empty when the key has none, or
-    /// one that is compiled into the program, or one that cannot be read or is over 32 MiB.
+    /// Content of the key's own picture, since the file under its path changes. Empty when the key has none,
+    /// or one that is compiled into the program, or one that cannot be read or is over 32 MiB.
     QByteArray picture;
-    QVector<vorlinmodel::MultiAction> steps;           ///< of a multi-action key
-    vorlindesk::SystemSettings::HomeLayoutEntry home;  ///< of a child-page key: where it leads; key id 0 = default
+    QVector<vorlinmodel::MultiAction> steps; ///< of a multi-action key
+    vorlindesk::SystemSettings::HomeLayoutEntry
+        home; ///< of a child-page key: where it leads; key id 0 = default
 
     int fid() const { return record ? record->mFId : 0; }
     bool hasOwnPicture() const;
@@ -53,15 +54,15 @@ QVector<vorlinmodel::AttributeId> attributesToRestore(const KeyState &from, cons
 /// that is not the default.
 QVector<vorlinmodel::AttributeId> allAttributes(const KeyState &to);
 
-/// The attribute id under which the content of a key with @p fid travels: 11, 14, 15 or 17; nothing for functions
-/// without content.
+/// The attribute id under which the content of a key with @p fid travels: 11, 14, 15 or 17; nothing for
+/// functions without content.
 std::optional<vorlinmodel::AttributeId> contentAttribute(int fid);
 
 /// The attribute id under which the text of a key's record travels: 11, 14 or 17.
 vorlinmodel::AttributeId textAttribute(int fid);
 
-/// The same for a person who does not look at the pictures: what a read of the panel brings back differs in how
-/// pictures are kept.
+/// The same for a person who does not look at the pictures: what a read of the panel brings back differs in
+/// how pictures are kept.
 bool sameFunction(const KeyState &left, const KeyState &right);
 
 /// The keys of a combination "Left Ctrl#C#undefine#undefine", without the places that are empty.

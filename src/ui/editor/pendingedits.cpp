@@ -116,7 +116,8 @@ void PendingEdits::forget(const key_id_t &key)
     const auto found = mEntries.find(key);
     if (found == mEntries.end())
         return;
-    // Not what is under way: its outcomes will come, before those of the new ones. The mark stays until then, too.
+    // Not what is under way: its outcomes will come, before those of the new ones. The mark stays until then,
+    // too.
     found->second.unsent.clear();
 }
 

@@ -14,8 +14,8 @@ namespace vorlinmodel {
 enum class RequestOutcome;
 }
 
-/// User-interface thread only. An attribute is pending from the moment when its request is posted until the panel
-/// has taken it; without a panel that outlasts the program ("devConfig/pending.ini").
+/// User-interface thread only. An attribute is pending from the moment when its request is posted until the
+/// panel has taken it; without a panel that outlasts the program ("devConfig/pending.ini").
 class PendingEdits : public QObject
 {
     Q_OBJECT
@@ -40,13 +40,13 @@ public:
     Mark mark(const vorlinmodel::key_id_t &key) const;
     QString reason(const vorlinmodel::key_id_t &key) const; ///< for the tool tip; empty without a mark
 
-    QVector<vorlinmodel::key_id_t> keys() const;                      ///< with anything pending, ascending
+    QVector<vorlinmodel::key_id_t> keys() const;                   ///< with anything pending, ascending
     Attributes attributes(const vorlinmodel::key_id_t &key) const; ///< empty when nothing is pending
 
-    /// Adds what the file holds. Entries that name no key or attribute are left out. @return false when the file
-    /// cannot be read.
+    /// Adds what the file holds. Entries that name no key or attribute are left out. @return false when the
+    /// file cannot be read.
     bool load();
-    bool save(); ///< @return false when it cannot be written
+    bool save();                              ///< @return false when it cannot be written
     bool isOnDisk() const { return mOnDisk; } ///< the file holds something, as far as known
 
 signals:

@@ -18,11 +18,6 @@ inline constexpr char Page[] =
     "MultiActionWidget QToolButton:hover, MultiActionWidget QToolButton:focus {border-color: rgb(0, 160, "
     "255);}"
     "MultiActionWidget QToolButton:pressed {background-color: rgb(0, 160, 255);}"
-    "QScrollBar:vertical {background-color: transparent;width: 10px;margin: 0px;}"
-    "QScrollBar::handle:vertical {background-color: rgb(92, 92, 92);border-radius: 4px;min-height: 20px;}"
-    "QScrollBar::handle:vertical:hover {background-color: rgb(108, 108, 108);}"
-    "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical {height: 0px;}"
-    "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical {background-color: transparent;}"
     "#keyChoice {background-color: rgb(51, 51, 51);border: 1px solid rgb(108, 108, 108);}"
     "#keyChoice QComboBox::drop-down {border: none;width: 18px;}";
 

@@ -14,7 +14,8 @@ namespace Paths = vorlindesk::Paths;
 
 namespace {
 
-/// Pictures that undo, paste and moves brought back, until the next saving puts them under the name of their key.
+/// Pictures that undo, paste and moves brought back, until the next saving puts them under the name of their
+/// key.
 QString pictureFolder()
 {
     return Paths::devConfigFolder() + QStringLiteral("/pictures");

@@ -32,7 +32,8 @@ public:
     void resume();  ///< what was held back is saved after the rest
     bool saveNow(); ///< and waits for it. @return false when a file could not be written
 
-    /// Writes a picture under a name that its content gives it. @return the path; empty when it could not be written.
+    /// Writes a picture under a name that its content gives it. @return the path; empty when it could not be
+    /// written.
     static QString keepPicture(const QByteArray &picture);
 
 signals:

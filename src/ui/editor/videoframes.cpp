@@ -16,11 +16,20 @@ constexpr int TimeLimit = 10000; // ms
 
 QStringList toolArguments(const QString &path)
 {
-    return {QStringLiteral("-nostdin"),  QStringLiteral("-v"),        QStringLiteral("error"),
-            QStringLiteral("-i"),        path,                        QStringLiteral("-frames:v"),
-            QStringLiteral("1"),         QStringLiteral("-vf"),       QStringLiteral("scale='min(480,iw)':-2"),
-            QStringLiteral("-f"),        QStringLiteral("image2pipe"), QStringLiteral("-c:v"),
-            QStringLiteral("png"),       QStringLiteral("pipe:1")};
+    return {QStringLiteral("-nostdin"),
+            QStringLiteral("-v"),
+            QStringLiteral("error"),
+            QStringLiteral("-i"),
+            path,
+            QStringLiteral("-frames:v"),
+            QStringLiteral("1"),
+            QStringLiteral("-vf"),
+            QStringLiteral("scale='min(480,iw)':-2"),
+            QStringLiteral("-f"),
+            QStringLiteral("image2pipe"),
+            QStringLiteral("-c:v"),
+            QStringLiteral("png"),
+            QStringLiteral("pipe:1")};
 }
 
 } // namespace
@@ -58,7 +67,8 @@ void VideoFrames::startNext()
     if (mpTool || mWaiting.isEmpty())
         return;
     mpTool = new QProcess(this);
-    connect(mpTool, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this, &VideoFrames::finish);
+    connect(mpTool, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
+            &VideoFrames::finish);
     connect(mpTool, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart) // the only error after which nothing finishes
             finish();
@@ -74,7 +84,8 @@ void VideoFrames::finish()
     if (frame.isNull())
         Log(LogLevel::Warn, "no first frame of %s: %s", qUtf8Printable(path),
             mpTool->readAllStandardError().simplified().constData());
-    mFrames.insert(path, {QFileInfo(path).lastModified(), frame}); // also a failure: it is not tried over and over
+    mFrames.insert(path,
+                   {QFileInfo(path).lastModified(), frame}); // also a failure: it is not tried over and over
     mpTool->deleteLater();
     mpTool = nullptr;
     startNext();

@@ -9,7 +9,8 @@
 
 class QProcess;
 
-/// Frames are taken by the ffmpeg tool, one video after the other, in the background. User-interface thread only.
+/// Frames are taken by the ffmpeg tool, one video after the other, in the background. User-interface thread
+/// only.
 class VideoFrames : public QObject
 {
     Q_OBJECT
@@ -17,8 +18,8 @@ public:
     explicit VideoFrames(QObject *parent = nullptr);
     ~VideoFrames() override; ///< ends a tool that still runs
 
-    /// @return the first frame, at most 480 pixels a side; null while it is not known yet, which is being changed,
-    /// and for what is no video, or when the tool is missing.
+    /// @return the first frame, at most 480 pixels a side; null while it is not known yet, which is being
+    /// changed, and for what is no video, or when the tool is missing.
     QImage firstFrame(const QString &path);
 
 signals:

@@ -6,9 +6,10 @@
 
 /// The formats are fixed and shared by every drag source and drop target.
 namespace DragFormat {
-inline constexpr char FunctionId[] = "quorradent_function_id"; ///< one qint32 through QDataStream
+inline constexpr char FunctionId[] = "quorradent_function_id";     ///< one qint32 through QDataStream
 inline constexpr char FunctionIcon[] = "quorradent_function_icon"; ///< VorlinMimeData
-inline constexpr char Key[] = "application/x-vorlindesk-key"; ///< layout, page and key id, three qint32 through QDataStream
+inline constexpr char Key[] =
+    "application/x-vorlindesk-key"; ///< layout, page and key id, three qint32 through QDataStream
 } // namespace DragFormat
 
 namespace vorlindesk {
