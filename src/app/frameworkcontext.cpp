@@ -7,6 +7,7 @@
 #include "console.h"
 #include "fontstyle.h"
 #include "logtext.h"
+#include "model/backuprestore.h"
 #include "model/functionmanager.h"
 #include "protocol/protocolthread.h"
 #include "resources/translationresources.h"
@@ -84,6 +85,7 @@ bool FrameworkContext::prepareFiles(const QString &dataDir)
     startLog(Paths::logFolder());
     logSystemInformation();
     Paths::createRuntimePath();
+    vorlinmodel::recoverRestore(); // before any of its files is read; says itself what it could not do
     SystemSettings::createDefaults();
     return true;
 }

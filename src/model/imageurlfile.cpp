@@ -1,5 +1,6 @@
 #include "imageurlfile.h"
 
+#include "base/initext.h"
 #include "base/log.h"
 #include "base/paths.h"
 #include "base/systemsettings.h"
@@ -9,6 +10,7 @@
 #include "model/picturefolder.h"
 #include "wholefile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -18,6 +20,7 @@
 namespace vorlinmodel {
 
 using vorlindesk::IniFile;
+using vorlindesk::iniText;
 using vorlindesk::Log;
 using vorlindesk::LogLevel;
 namespace Paths = vorlindesk::Paths;
@@ -176,15 +179,15 @@ void writeItem(QSettings &settings, const Item &item)
     settings.beginGroup(QStringLiteral("%1_%2_%3").arg(item.key.lid).arg(item.key.pageid).arg(item.key.kid));
     settings.setValue(Field::Fid, attribute.mFId);
     settings.setValue(Field::DisplayImageType, attribute.nDisplayImageType);
-    settings.setValue(Field::DefaultImage, attribute.defaultImage);
-    settings.setValue(Field::CustomImage, storedImage(item));
+    settings.setValue(Field::DefaultImage, iniText(attribute.defaultImage));
+    settings.setValue(Field::CustomImage, iniText(storedImage(item)));
     settings.setValue(Field::ImageEffects, attribute.imageEffects);
     settings.setValue(Field::DisplayMode, attribute.nDisplaymode);
-    settings.setValue(Field::Title, attribute.strTitle);
+    settings.setValue(Field::Title, iniText(attribute.strTitle));
     settings.setValue(Field::TitleAlignment, attribute.titleAlignment);
     settings.setValue(Field::TitleFontSize, attribute.titleFontSize);
     settings.setValue(Field::TitleColour, colour.isValid() ? colour.name() : QString());
-    settings.setValue(Field::AppOrUrl, attribute.strAppOrUrl);
+    settings.setValue(Field::AppOrUrl, iniText(attribute.strAppOrUrl));
     settings.endGroup();
 }
 
@@ -272,6 +275,16 @@ bool saveAllKeyData(IFunctionManager &store)
         removeUnusedPictures(store);
     // A file that could not be parsed is kept aside by now, and replaced all the same.
     return moved && ini->status() != QSettings::AccessError;
+}
+
+bool writeKeyRecords(const QString &path, const QVector<KeyAttribute> &records)
+{
+    IniFile ini(path);
+    ini->clear();
+    for (const KeyAttribute &record : records)
+        writeItem(ini.settings(), {record.key, record.attribute, {}, {}});
+    ini->sync();
+    return ini->status() == QSettings::NoError;
 }
 
 bool loadAllKeyData(IFunctionManager &store)

@@ -1,16 +1,24 @@
 /// "CD.bin": the whole configuration in one file, also what a configuration-file request sends to the panel.
 #pragma once
 
+#include "model/backupwatch.h"
+#include "model/scriptformat.h"
+
 #include <QByteArray>
+#include <QStringList>
+#include <optional>
 
 namespace vorlinmodel {
 
 class IFunctionManager;
-class MultiActionStore;
-struct Script; // model/scriptformat.h, for those who look inside
 
-/// Packs every record, picture, video and action list of @p store. Reads files; log lines name what had to
-/// stay out (a key that the format cannot address, a file that cannot be read).
+/// Every record, picture, video and action list of @p store, with the files read. @p leftOut gets one plain
+/// text for each thing that had to stay out (a key that the format cannot address, a file that cannot be
+/// read); log lines say the same. @return nothing when @p watch gave it up.
+std::optional<Script> collectScript(const IFunctionManager &store, const MultiActionStore &actions,
+                                    const BackupWatch &watch, QStringList &leftOut);
+
+/// The same, packed.
 QByteArray buildScript(const IFunctionManager &store, const MultiActionStore &actions);
 
 /// Takes over what @p script holds: its pages replace those of the store, and their keys get their pictures,

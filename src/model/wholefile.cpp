@@ -2,8 +2,28 @@
 
 #include <QFile>
 #include <QSaveFile>
+#include <algorithm>
 
 namespace vorlinmodel {
+
+namespace {
+
+/// In pieces, since QFile::read() takes as much memory as it is allowed to; and an endless device has no
+/// size.
+QByteArray readUpTo(QFile &file, qint64 most)
+{
+    constexpr qint64 piece = 64 * 1024;
+    QByteArray bytes = file.read(std::min(file.size(), most));
+    while (bytes.size() < most) {
+        const QByteArray more = file.read(std::min(piece, most - bytes.size()));
+        if (more.isEmpty())
+            break;
+        bytes += more;
+    }
+    return bytes;
+}
+
+} // namespace
 
 std::optional<QByteArray> readWholeFile(const QString &path, QString &error, qint64 limit)
 {
@@ -12,8 +32,8 @@ std::optional<QByteArray> readWholeFile(const QString &path, QString &error, qin
         error = file.errorString();
         return std::nullopt;
     }
-    // One byte more than allowed, since an endless device has no size.
-    const QByteArray bytes = file.read(limit + 1);
+    const QByteArray bytes =
+        readUpTo(file, limit + 1); // one byte more than allowed, to notice that there is more
     if (bytes.size() > limit) {
         error = QStringLiteral("larger than %1 bytes").arg(limit);
         return std::nullopt;

@@ -5,7 +5,7 @@
 #include "model/scriptformat.h"
 #include "storefixture.h"
 
-#include <QTest>
+#include <QtTest>
 #include <memory>
 
 using namespace vorlinmodel;
@@ -147,7 +147,7 @@ private slots:
             QVERIFY(!ConfigBackup::restoreSettingsFiles(path("in")));
         }
         QCOMPARE(QDir(path("devConfig")).entryList(QDir::Files, QDir::Name),
-                 QStringList({u("customLayout.ini"), u("multiActions.json"), u("system.ini")}));
+                 texts({"customLayout.ini", "multiActions.json", "system.ini"}));
         QCOMPARE(testFileContent(path("devConfig/system.ini")), QByteArray("old system.ini"));
         QCOMPARE(mpFixture->takeLines().filter(u("3 Failed to restore  [")).size(), 3);
     }

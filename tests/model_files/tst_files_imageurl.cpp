@@ -5,7 +5,7 @@
 #include "model/imageurlfile.h"
 #include "storefixture.h"
 
-#include <QTest>
+#include <QtTest>
 #include <memory>
 
 using namespace vorlinmodel;

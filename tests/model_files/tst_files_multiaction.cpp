@@ -4,7 +4,7 @@
 #include "fileutil.h"
 #include "storefixture.h"
 
-#include <QTest>
+#include <QtTest>
 #include <memory>
 #include <thread>
 
@@ -90,7 +90,7 @@ private slots:
         QVERIFY(actions.writeActionsByKeyId(1, 1, 2, {{6, 0, {}}}, error));
         QVERIFY(actions.writeActionsByKeyId(1, 1, 5, {{7, 0, {}}}, error));
         QVERIFY(actions.writeActionsByKeyId(1, 1, 9, {{8, 0, {}}}, error));
-        QCOMPARE(keysOnDisk(), QStringList({u("1/1/9"), u("1/1/2"), u("1/1/5")}));
+        QCOMPARE(keysOnDisk(), texts({"1/1/9", "1/1/2", "1/1/5"}));
         QCOMPARE(actions.readActionsByKeyId(1, 1, 9), QVector<MultiAction>({{8, 0, {}}}));
 
         mpFixture->takeLines();
@@ -99,7 +99,7 @@ private slots:
         QCOMPARE(mpFixture->takeLines(), QStringList{u("4 -readData -del --i=1")});
         QVERIFY(actions.replaceEntries({{1, 1, 9}, {1, 1, 5}}, {{{1, 1, 5}, {{9, 0, {}}}}, {{3, 1, 1}, {}}},
                                        error));
-        QCOMPARE(keysOnDisk(), QStringList({u("1/1/5"), u("3/1/1")}));
+        QCOMPARE(keysOnDisk(), texts({"1/1/5", "3/1/1"}));
         QCOMPARE(actions.readActionsByKeyId(1, 1, 5), QVector<MultiAction>({{9, 0, {}}}));
     }
 

@@ -8,7 +8,7 @@
 #include "model/scriptformat.h"
 #include "storefixture.h"
 
-#include <QTest>
+#include <QtTest>
 #include <memory>
 
 using namespace vorlinmodel;
