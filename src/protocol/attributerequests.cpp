@@ -205,8 +205,18 @@ void writeMultiActions(const Write &write)
     write.context.protocol.sendInBlocks(MultiActionsTransfer);
 }
 
+/// The file of layouts has moved on since the panel got this one: the request that brings the new one waits
+/// in the queue, and behind it the pictures of all keys whose size differs. Until then the panel would refuse
+/// it.
+bool isAheadOfLayout(const Write &write)
+{
+    return write.context.layouts.differs(write.key, keyPixelSize(write.key));
+}
+
 void writeImage(const Write &write)
 {
+    if (isAheadOfLayout(write))
+        return;
     const std::optional<QByteArray> picture = encodedKeyPicture(write.context.store, write.key);
     if (!picture) {
         Log(LogLevel::Error, Text::NoPicture, write.key.lid, write.key.pageid, write.key.kid);
@@ -301,6 +311,12 @@ void processKeyAttribute(DeviceContext &context, const Request &request)
         Log(LogLevel::Info, Text::NoKeyRecord, key.lid, key.pageid, key.kid);
     else
         operation->run(write);
+}
+
+void reportCancelledAttribute(DeviceContext &context, const Request &request)
+{
+    if (static_cast<AttributeId>(request.attributeId) == AttributeId::Video)
+        emit context.events.sigSendVideoFinished(VideoNotSent);
 }
 
 } // namespace vorlinmodel

@@ -9,4 +9,7 @@ namespace vorlinmodel {
 /// for "clear the key", and for the function id, which the request brings itself.
 void processKeyAttribute(DeviceContext &context, const Request &request);
 
+/// Reports the result of such a request that was cancelled before its turn came.
+void reportCancelledAttribute(DeviceContext &context, const Request &request);
+
 } // namespace vorlinmodel

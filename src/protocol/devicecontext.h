@@ -7,6 +7,8 @@
 
 #include "model/keyid.h"
 
+#include <QSize>
+#include <QVector>
 #include <atomic>
 #include <map>
 
@@ -39,6 +41,25 @@ private:
     std::map<key_id_t, int> mFunctions;
 };
 
+/// The pixel sizes of the keys of custom layouts that were written to the panel; for pictures, which it takes
+/// at these sizes only.
+class WrittenLayouts
+{
+public:
+    void note(int layoutId, const QVector<QSize> &keys) { mLayouts[layoutId] = keys; }
+    void forget(int layoutId) { mLayouts.erase(layoutId); }
+    void forgetAll() { mLayouts.clear(); }
+    /// True when the panel's key is known to have another size than @p size.
+    bool differs(const key_id_t &key, const QSize &size) const
+    {
+        const auto written = mLayouts.find(key.lid);
+        return written != mLayouts.end() && written->second.value(key.kid - 1, size) != size;
+    }
+
+private:
+    std::map<int, QVector<QSize>> mLayouts;
+};
+
 /// Borrowed from the protocol thread, on which every operation runs.
 struct DeviceContext
 {
@@ -50,6 +71,7 @@ struct DeviceContext
     std::atomic<bool> &upgrading;
     WrittenFunctions functions;
     bool unreadable; ///< set by an operation that could not read a file, and therefore wrote nothing
+    WrittenLayouts layouts{};
 };
 
 /// Carries out one request, to its end. Failures are in the log only, except where a signal reports the

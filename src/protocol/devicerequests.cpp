@@ -4,6 +4,7 @@
 #include "base/systemsettings.h"
 #include "logtext.h"
 #include "model/customlayouts.h"
+#include "model/keypicture.h"
 #include "model/scriptcontainer.h"
 #include "model/wholefile.h"
 #include "transport/itransfer.h"
@@ -85,6 +86,14 @@ CustomLayoutRecord::Record recordOf(quint32 layoutId, const CustomLayout &layout
             key.lastPhysical);
     }
     return record;
+}
+
+QVector<QSize> keySizesOf(const CustomLayout &layout)
+{
+    QVector<QSize> sizes;
+    for (const CustomLayoutKey &key : layout.keys)
+        sizes << keyPixelSize(key.mask);
+    return sizes;
 }
 
 QByteArray storedHomeLayout(quint32 layoutId)
@@ -171,13 +180,17 @@ void processCustomLayoutSet(DeviceContext &context, const Request &request)
     }
     const QByteArray body = CustomLayoutRecord::encode(recordOf(request.layoutId, *layout));
     context.protocol.buildPlain(FunctionCode::MD_FUNCTION_CODE_CUSTOMLAYOUT_SET, body);
-    context.protocol.sendInBlocks(CustomLayoutTransfer);
+    if (context.protocol.sendInBlocks(CustomLayoutTransfer))
+        context.layouts.note(layout->layoutId, keySizesOf(*layout));
+    else
+        context.layouts.forget(layout->layoutId);
 }
 
 void processCustomLayoutDel(DeviceContext &context, const Request &request)
 {
     Log(LogLevel::Info, Text::CustomLayoutDel);
     Log(LogLevel::Info, Text::CustomLayoutDelDetail, signedOf(request.layoutId), signedOf(request.pageId));
+    context.layouts.forget(signedOf(request.layoutId));
     sendPlain(context, FunctionCode::MD_FUNCTION_CODE_CUSTOMLAYOUT_DEL, bodyOf({lowByte(request.layoutId)}));
 }
 

@@ -7,6 +7,7 @@
 #include "wire/applicationmessage.h"
 #include "wire/crc16.h"
 
+#include <QElapsedTimer>
 #include <QFileInfo>
 
 namespace vorlinmodel {
@@ -20,6 +21,7 @@ namespace Text = ProtocolText;
 constexpr int ResponseTimeout = 1000; // ms per read
 constexpr int CrcTimeout = 5000;      // ms per read: the panel sums up the whole file first
 constexpr int LargestFile = ApplicationMessage::MaxSize - ApplicationMessage::SubcodeDataOffset;
+constexpr qint64 ProgressPeriod = 50; // ms; the lines tell of every block, the bar need not
 constexpr qint32 Available = 1;
 constexpr qint32 NotAvailable = -1;
 constexpr qint32 Delivered = 1;
@@ -31,9 +33,10 @@ constexpr char CrcMismatch = 1;
 class Upgrade
 {
 public:
-    Upgrade(DeviceContext &context, QString fileName)
+    Upgrade(DeviceContext &context, const Request &request)
         : mContext(context)
-        , mFileName(std::move(fileName))
+        , mRequest(request)
+        , mFileName(request.fileName)
     {}
 
     void run();
@@ -61,9 +64,12 @@ private:
     void sayReply(const Reply &reply);
     bool send(Subcode subcode, const QByteArray &data = {});
     bool awaitReply(Subcode subcode, int timeoutMs, Reply &reply);
+    void sayProgress(int sentBlocks, int allBlocks, bool isLast);
 
     DeviceContext &mContext;
+    const Request &mRequest;
     const QString mFileName;
+    QElapsedTimer mSinceProgress;
     QByteArray mFirmware;
     quint16 mFileCrc = 0;
     quint16 mPanelCrc = 0;
@@ -187,13 +193,28 @@ bool Upgrade::erase()
     return true;
 }
 
+/// Behind the first block, behind the last that was sent, and at most 20 times a second between them.
+void Upgrade::sayProgress(int sentBlocks, int allBlocks, bool isLast)
+{
+    const bool isDue = !mSinceProgress.isValid() || mSinceProgress.hasExpired(ProgressPeriod);
+    if (sentBlocks == 0 || (!isDue && !isLast))
+        return;
+    mSinceProgress.start();
+    emit mContext.events.sigTransferProgress(mRequest, sentBlocks, allBlocks);
+}
+
 bool Upgrade::transfer()
 {
+    using vorlindesk::MDProtocol;
     mContext.protocol.buildSubcoded(Subcode::FirmwareData, mFirmware);
     Log(LogLevel::Info, Text::UpgradeTransferBegins);
-    const bool done = mContext.protocol.sendFirmware([this](int block, bool sent) {
+    constexpr int blockSize = MDProtocol::LargestSingle;
+    const int allBlocks = (mContext.protocol.messageSize() + blockSize - 1) / blockSize;
+    const bool done = mContext.protocol.sendFirmware([this, allBlocks](int block, bool sent) {
         say(sent ? QString::asprintf(Text::UpgradeBlockOk, block)
                  : QString::asprintf(Text::BlockFailed, block));
+        const bool isLast = !sent || block == allBlocks;
+        sayProgress(sent ? block : block - 1, allBlocks, isLast);
     });
     if (!done) {
         say(Text::UpgradeTransferError);
@@ -249,7 +270,7 @@ void processUpgrade(DeviceContext &context, const Request &request)
     Log(LogLevel::Info, Text::Upgrade, qUtf8Printable(request.fileName));
     context.upgrading = true;
     takeDevicePath(context, request);
-    Upgrade(context, request.fileName).run();
+    Upgrade(context, request).run();
     context.upgrading = false;
 }
 

@@ -13,6 +13,7 @@ enum class RequestOutcome {
     NoPanel,    ///< no panel was there
     Failed,     ///< the panel was there, and a report could not be written
     Unreadable, ///< nothing was written: a file that belongs to the request cannot be read, or is too long
+    Cancelled,  ///< by cancelTransfer(): the panel keeps what it had
 };
 
 class IProtocolThread : public QThread
@@ -28,6 +29,10 @@ public:
     virtual void clearRequests() = 0;
     /// Moves the oldest request out of the queue. @return false when there is none.
     virtual bool takeRequest(Request &request) = 0;
+    /// Gives up every request equal to @p request: one that waits is dropped when its turn comes; of one that
+    /// is sent in blocks no more blocks go out. RequestOutcome::Cancelled follows, or another outcome when it
+    /// was too late. Any thread; never waits.
+    virtual void cancelTransfer(const Request &request) = 0;
     virtual bool isUpgrading() const = 0;  ///< any thread
     virtual int pollingPeriod() const = 0; ///< ms; 10 at start, 2 after the first multi-block message
     virtual void setPollingPeriod(int milliseconds) = 0;
@@ -49,6 +54,9 @@ signals: // all emitted on this thread, except by execCommand()
     void sigUpgradeFinished(qint32 nResult);
     /// Once per request, in the order of the queue. Connect directly, and hand the values over.
     void sigRequestDone(const vorlinmodel::Request &request, vorlinmodel::RequestOutcome outcome);
+    /// Of a request that takes more than 50 blocks: behind its first block, then at most 20 times a second,
+    /// and behind its last. @p sentBlocks is 1 to @p allBlocks. Connect directly, and hand the values over.
+    void sigTransferProgress(const vorlinmodel::Request &request, int sentBlocks, int allBlocks);
 };
 
 } // namespace vorlinmodel

@@ -10,6 +10,7 @@ inline constexpr char RequestError[] = "send request  error\n";
 inline constexpr char MessageLength[] = "----nProtoLen=[%d]\n";
 inline constexpr char BlockSent[] = "transfer %d block data\n";
 inline constexpr char BlockFailed[] = "transfer %d block data error\n";
+inline constexpr char TransferCancelled[] = "transfer cancelled after %d of %d blocks\n";
 
 // Receiving
 inline constexpr char ReplyTimeout[] = "recv function code:0x%02x subcode:0x%02x timeout\n";
@@ -32,6 +33,7 @@ inline constexpr char ExecCommandText[] = "-sigDealExecCommand-strUrlOrPath=[%s]
 inline constexpr char InitOk[] = "Initialize the hid successfully\n";
 inline constexpr char InitFailed[] = "Failed to initialize the hid\n";
 inline constexpr char StopTimedOut[] = "the protocol thread did not end within %d ms\n";
+inline constexpr char RequestCancelled[] = "request of kind %d cancelled before it was sent\n";
 inline constexpr char NewDevicePath[] = "new hidpath:%s\n";
 inline constexpr char NewBlockDelay[] = "set timeout %d ms\n";
 

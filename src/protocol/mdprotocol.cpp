@@ -17,6 +17,8 @@ using ReportFrame::Block;
 
 constexpr std::chrono::nanoseconds BlockPause = std::chrono::milliseconds(2); // paces the panel
 constexpr std::chrono::nanoseconds NoPause{0};
+constexpr int ManyBlocks = 50;          // fewer are sent before anybody has read a progress
+constexpr qint64 ProgressInterval = 50; // ms
 
 QByteArray lowBytes(std::initializer_list<quint32> ids)
 {
@@ -102,6 +104,7 @@ bool MDProtocol::sendSingle()
 
 bool MDProtocol::sendInBlocks(const BlockTransfer &transfer)
 {
+    mWasCancelled = false;
     if (mMessageSize >= 0)
         Log(LogLevel::Info, ProtocolText::MessageLength, mMessageSize);
     const bool done = sendBlocks(FlagRule::ByTotal, transfer.paced ? BlockPause : NoPause, {});
@@ -130,6 +133,8 @@ bool MDProtocol::sendBlocks(FlagRule rule, std::chrono::nanoseconds pause, const
     int offset = 0;
     for (int block = 1; offset < mMessageSize; ++block) {
         const int remaining = mMessageSize - offset;
+        if (rule == FlagRule::ByTotal && remaining > 1 && mCallbacks.cancelled && mCallbacks.cancelled())
+            return giveUp(block - 1, pause);
         const int length = std::min(remaining, LargestSingle);
         frame(blockFlag(rule, remaining), mpMessage.get() + offset, length);
         offset += length;
@@ -139,10 +144,45 @@ bool MDProtocol::sendBlocks(FlagRule rule, std::chrono::nanoseconds pause, const
             Log(LogLevel::Error, ProtocolText::BlockFailed, block);
         if (onBlock)
             onBlock(block, sent);
+        else if (sent)
+            tellProgress(block);
         if (!sent || !pauseAfterBlock(pause))
             break;
     }
     return offset >= mMessageSize; // also when only the last block failed
+}
+
+/// The panel takes every block for a part of the message until one is flagged "last": without that it would
+/// read the next message as the rest of this one. So the message is closed by a block with a single zero
+/// byte. It then ends before the length that it has announced, by which the panel knows that it was given up,
+/// and keeps what it had. (With one byte left, the message would be whole with that block: then it is sent.)
+bool MDProtocol::giveUp(int sentBlocks, std::chrono::nanoseconds pause)
+{
+    constexpr quint8 nothing = 0;
+    mWasCancelled = true;
+    Log(LogLevel::Info, ProtocolText::TransferCancelled, sentBlocks, blockCount());
+    if (sentBlocks == 0)
+        return false; // the panel knows nothing of it
+    frame(Block::Last, &nothing, 1);
+    if (sendReport(sentBlocks + 1))
+        pauseAfterBlock(pause);
+    return false;
+}
+
+int MDProtocol::blockCount() const
+{
+    return (mMessageSize + LargestSingle - 1) / LargestSingle;
+}
+
+void MDProtocol::tellProgress(int sentBlocks)
+{
+    const int all = blockCount();
+    if (all <= ManyBlocks || !mCallbacks.progress)
+        return;
+    if (sentBlocks > 1 && sentBlocks < all && mSinceProgress.elapsed() < ProgressInterval)
+        return;
+    mSinceProgress.start();
+    mCallbacks.progress(sentBlocks, all);
 }
 
 bool MDProtocol::pauseAfterBlock(std::chrono::nanoseconds pause)

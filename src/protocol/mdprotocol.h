@@ -6,6 +6,7 @@
 #include "wire/reportframe.h"
 
 #include <QByteArray>
+#include <QElapsedTimer>
 #include <chrono>
 #include <functional>
 #include <memory>
@@ -29,6 +30,11 @@ public:
         std::function<bool()> interrupted;
         /// Waits so many ms. @return false when the thread was asked to end meanwhile.
         std::function<bool(int)> pause;
+        /// Between two blocks: true when the rest of the message is no longer wanted.
+        std::function<bool()> cancelled = {};
+        /// So many blocks of a message have been sent: behind the first, at most 20 times a second, and
+        /// behind the last; not of messages of 50 blocks or fewer.
+        std::function<void(int sentBlocks, int allBlocks)> progress = {};
     };
 
     /// Outcome lines and pace of a message that goes in blocks.
@@ -69,8 +75,11 @@ public:
     bool sendSingle();
     /// Sends the built message in blocks. A failed last block counts as success: the panel's makers want it
     /// so.
-    /// @return false when blocks were left, or when nothing was sent because the message is too long.
+    /// @return false when blocks were left, or when nothing was sent because the message is too long, or was
+    /// cancelled, see wasCancelled().
     bool sendInBlocks(const BlockTransfer &transfer);
+    bool wasCancelled() const { return mWasCancelled; } ///< the last message in blocks, if not forgotten
+    void forgetCancelled() { mWasCancelled = false; }
     /// The same for firmware: never a whole-message flag, no 2 ms pause; @p onBlock is told of every block.
     bool sendFirmware(const std::function<void(int block, bool sent)> &onBlock);
     quint64 failedSends() const { return mFailedSends; } ///< reports that could not be sent so far
@@ -95,6 +104,9 @@ private:
     ReportFrame::Block blockFlag(FlagRule rule, int remaining) const;
     bool sendBlocks(FlagRule rule, std::chrono::nanoseconds pause, const OnBlock &onBlock);
     bool pauseAfterBlock(std::chrono::nanoseconds pause);
+    bool giveUp(int sentBlocks, std::chrono::nanoseconds pause);
+    int blockCount() const;
+    void tellProgress(int sentBlocks);
     int receive(int timeoutMs);
     int receiveInSlices(int timeoutMs);
     void handleReport();
@@ -113,6 +125,8 @@ private:
     int mOpenCount = 0; // of the transport, when the last report was read
     int mBlockDelay = 0;
     quint64 mFailedSends = 0;
+    bool mWasCancelled = false;
+    QElapsedTimer mSinceProgress; ///< since the last progress() of the message
 };
 
 } // namespace vorlindesk

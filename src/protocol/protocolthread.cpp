@@ -56,6 +56,11 @@ bool ProtocolThread::takeRequest(Request &request)
     return true;
 }
 
+void ProtocolThread::cancelTransfer(const Request &request)
+{
+    mpShared->queue.cancel(request);
+}
+
 bool ProtocolThread::isUpgrading() const
 {
     return mpShared->upgrading;

@@ -25,6 +25,7 @@ public:
     void postRequest(const Request &request) override;
     void clearRequests() override;
     bool takeRequest(Request &request) override;
+    void cancelTransfer(const Request &request) override;
     bool isUpgrading() const override;
     int pollingPeriod() const override;
     void setPollingPeriod(int milliseconds) override;

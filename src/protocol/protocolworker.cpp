@@ -109,8 +109,14 @@ ProtocolWorker::~ProtocolWorker() = default;
 vorlindesk::MDProtocol::Callbacks ProtocolWorker::callbacks()
 {
     return {
-        .messageReceived = [this](const quint8 *message,
-                                  int length) { emit mThread.sigDealRecvData(message, length); },
+        .messageReceived =
+            [this](const quint8 *message, int length) {
+                constexpr auto customLayout =
+                    static_cast<quint8>(FunctionCode::MD_FUNCTION_CODE_CUSTOMLAYOUT_SET);
+                if (length > 0 && message[0] == customLayout)
+                    mContext.layouts.forgetAll(); // the panel's own take the place of those written
+                emit mThread.sigDealRecvData(message, length);
+            },
         .keyPressed =
             [this](int lid, int pageid, int kid) {
                 onKeyPressed({lid, pageid, kid});
@@ -118,6 +124,12 @@ vorlindesk::MDProtocol::Callbacks ProtocolWorker::callbacks()
         .reassemblyStarted = [this] { mShared.pollingPeriod = FastPollingPeriod; },
         .interrupted = [this] { return mThread.isInterruptionRequested(); },
         .pause = [this](int milliseconds) { return pause(milliseconds); },
+        .cancelled = [this] { return mShared.queue.isCancelled(); },
+        .progress =
+            [this](int sentBlocks, int allBlocks) {
+                if (mpUnderWay)
+                    emit mThread.sigTransferProgress(*mpUnderWay, sentBlocks, allBlocks);
+            },
     };
 }
 
@@ -144,13 +156,29 @@ void ProtocolWorker::pass()
 {
     QElapsedTimer stopwatch;
     stopwatch.start();
-    if (const std::optional<Request> request = mShared.queue.take()) {
+    if (const std::optional<Request> request = mShared.queue.begin()) {
         mpTransfer->setErrorLogging(true);
-        processLogged(*request);
+        mpUnderWay = &*request;
+        if (!dropCancelled(*request))
+            processLogged(*request);
+        mpUnderWay = nullptr;
         mpTransfer->setErrorLogging(false);
+        mShared.queue.end();
     }
     pollPanel();
     rest(stopwatch.elapsed());
+}
+
+/// @return true when the request was cancelled while it waited.
+bool ProtocolWorker::dropCancelled(const Request &request)
+{
+    if (!mShared.queue.isCancelled())
+        return false;
+    Log(LogLevel::Info, ProtocolText::RequestCancelled, static_cast<int>(request.functionCode));
+    if (request.functionCode == static_cast<quint32>(RequestKind::MD_FUNCTION_CODE_KEY_ATTRIBUTE))
+        reportCancelledAttribute(mContext, request);
+    emit mThread.sigRequestDone(request, RequestOutcome::Cancelled);
+    return true;
 }
 
 /// The same request over and over while no panel is there, as synchronising sends it, is logged only once.
@@ -162,12 +190,15 @@ void ProtocolWorker::processLogged(const Request &request)
     const bool wasOpen = mpTransfer->isOpen();
     const int openCount = mpTransfer->openCount();
     mContext.unreadable = false;
+    mProtocol.forgetCancelled();
     if (changesAllKeys(request))
         mContext.functions.forgetAll();
     process(request);
     const bool sent = mProtocol.failedSends() == failedSends;
     const bool panelWasThere = wasOpen || mpTransfer->openCount() != openCount;
-    emit mThread.sigRequestDone(request, outcome(sent, panelWasThere, mContext.unreadable));
+    emit mThread.sigRequestDone(request, mProtocol.wasCancelled()
+                                             ? RequestOutcome::Cancelled
+                                             : outcome(sent, panelWasThere, mContext.unreadable));
     if (mpTransfer->isOpen()) {
         mAbsent.clear();
         if (mpHeld)

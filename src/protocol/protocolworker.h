@@ -43,6 +43,7 @@ private:
     vorlindesk::MDProtocol::Callbacks callbacks();
     void pass();
     void process(const Request &request);
+    bool dropCancelled(const Request &request);
     void processLogged(const Request &request);
     void pollPanel();
     void rest(qint64 elapsedMs);
@@ -57,6 +58,7 @@ private:
     vorlindesk::MDProtocol mProtocol;
     DeviceContext mContext;
     LinkWatch mLinkWatch;
+    const Request *mpUnderWay = nullptr; ///< while it is carried out
     QVector<Request>
         mAbsent; ///< that failed since the panel was seen last: their lines are in the log already
     std::unique_ptr<vorlindesk::HeldLog> mpHeld;

@@ -6,14 +6,14 @@ void RequestQueue::post(Request request)
 {
     {
         const std::lock_guard lock(mMutex);
-        mRequests.push_back(std::move(request));
+        mRequests.push_back({std::move(request)});
     }
     mChanged.notify_all();
 }
 
 void RequestQueue::clear()
 {
-    std::deque<Request> dropped; // released after the lock
+    std::deque<Entry> dropped; // released after the lock
     const std::lock_guard lock(mMutex);
     mRequests.swap(dropped);
 }
@@ -21,11 +21,45 @@ void RequestQueue::clear()
 std::optional<Request> RequestQueue::take()
 {
     const std::lock_guard lock(mMutex);
+    std::optional<Entry> entry = takeEntry();
+    return entry ? std::make_optional(std::move(entry->request)) : std::nullopt;
+}
+
+/// The mutex is locked.
+std::optional<RequestQueue::Entry> RequestQueue::takeEntry()
+{
     if (mRequests.empty())
         return std::nullopt;
-    std::optional<Request> request(std::move(mRequests.front()));
+    std::optional<Entry> entry(std::move(mRequests.front()));
     mRequests.pop_front();
-    return request;
+    return entry;
+}
+
+std::optional<Request> RequestQueue::begin()
+{
+    const std::lock_guard lock(mMutex);
+    const std::optional<Entry> entry = takeEntry();
+    mIsCancelled = entry && entry->isCancelled;
+    mUnderWay = entry ? std::make_optional(entry->request) : std::nullopt;
+    return mUnderWay;
+}
+
+void RequestQueue::end()
+{
+    const std::lock_guard lock(mMutex);
+    mUnderWay.reset();
+    mIsCancelled = false;
+}
+
+void RequestQueue::cancel(const Request &request)
+{
+    const std::lock_guard lock(mMutex);
+    if (mUnderWay == request)
+        mIsCancelled = true;
+    for (Entry &entry : mRequests) {
+        if (entry.request == request)
+            entry.isCancelled = true;
+    }
 }
 
 void RequestQueue::waitForRequest(std::chrono::milliseconds timeout)

@@ -3,6 +3,7 @@
 
 #include "base/request.h"
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <deque>
@@ -19,6 +20,13 @@ public:
     void clear();
     std::optional<Request> take(); ///< the oldest request, or nothing; never waits for one
 
+    /// Takes the oldest request to carry it out: until end() it is the one that isCancelled() is about.
+    std::optional<Request> begin();
+    void end();
+    /// Marks the requests equal to @p request: the one under way, and those that wait.
+    void cancel(const Request &request);
+    bool isCancelled() const { return mIsCancelled; } ///< the request under way
+
     /// Waits until a request is there, until interrupt(), or for @p timeout.
     void waitForRequest(std::chrono::milliseconds timeout);
     /// Waits for @p timeout whatever is posted. @return true when interrupt() ended the wait.
@@ -28,9 +36,19 @@ public:
     void resume();
 
 private:
+    struct Entry
+    {
+        Request request;
+        bool isCancelled = false;
+    };
+
+    std::optional<Entry> takeEntry();
+
     std::mutex mMutex;
     std::condition_variable mChanged;
-    std::deque<Request> mRequests;
+    std::deque<Entry> mRequests;
+    std::optional<Request> mUnderWay;
+    std::atomic<bool> mIsCancelled = false; ///< written under the mutex, read between two blocks
     bool mInterrupted = false;
 };
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/log.h"
+#include "support/texts.h"
 
 #include <QStringList>
 #include <mutex>
@@ -14,7 +15,7 @@ public:
     {
         vorlindesk::setLogSink([this](vorlindesk::LogLevel level, const QString &text) {
             const std::lock_guard lock(mMutex);
-            mLines.push_back(QStringLiteral("%1 %2").arg(static_cast<int>(level)).arg(text));
+            mLines.push_back("%1 %2"_s.arg(static_cast<int>(level)).arg(text));
         });
     }
     ~LogCapture() { vorlindesk::setLogSink({}); }

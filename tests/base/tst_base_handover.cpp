@@ -1,8 +1,6 @@
 #include "base/handover.h"
 
-#include <QEventLoop>
-#include <QTest>
-#include <QThread>
+#include <QtTest>
 #include <memory>
 #include <thread>
 

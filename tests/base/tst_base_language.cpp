@@ -2,16 +2,10 @@
 #include "base/paths.h"
 #include "base/systemsettings.h"
 #include "resources/translationresources.h"
+#include "support/table.h"
 
 #include "logcapture.h"
 
-#include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTranslator>
 #include <optional>
 
 using namespace vorlindesk;
@@ -22,6 +16,8 @@ class TestLanguage : public QObject
 
     const QString mOldCurrent = QDir::currentPath();
     std::optional<QTemporaryDir> mDir;
+
+    using SettingTable = Table<QByteArray, int, QString, QString>;
 
 private slots:
     void initTestCase() { initTranslationResources(); }
@@ -36,15 +32,7 @@ private slots:
 
     void settingChoosesTranslationAndColumn_data()
     {
-        QTest::addColumn<QByteArray>("stored");
-        QTest::addColumn<int>("language");
-        QTest::addColumn<QString>("delete_");
-        QTest::addColumn<QString>("cancel");
-        const auto row = [](const char *name, const char *stored, int language, const char *text,
-                            const char *cancel) {
-            QTest::newRow(name) << QByteArray(stored) << language << QString::fromUtf8(text)
-                                << QString::fromUtf8(cancel);
-        };
+        const SettingTable row;
         row("no setting", "", 0, "Delete", "Cancel");
         row("Simplified Chinese", "language=1", 1, "删除", "取消");
         row("Traditional Chinese", "language=2", 2, "刪除", "取消");
@@ -54,7 +42,7 @@ private slots:
 
     void settingChoosesTranslationAndColumn()
     {
-        QFETCH(QByteArray, stored);
+        const auto [stored, language, delete_, cancel] = SettingTable::current();
         QVERIFY(QDir().mkpath(Paths::devConfigFolder()));
         QFile file(Paths::systemIni());
         QVERIFY(file.open(QIODevice::WriteOnly));
@@ -64,9 +52,9 @@ private slots:
         QTranslator translator;
         LanguageManager manager(&translator);
         QVERIFY(manager.Init());
-        QTEST(manager.language(), "language");
-        QTEST(manager.Text(TextId::Delete), "delete_");
-        QTEST(QCoreApplication::translate("QPlatformTheme", "Cancel"), "cancel");
+        QCOMPARE(manager.language(), language);
+        QCOMPARE(manager.Text(TextId::Delete), delete_);
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), cancel);
     }
 
     void changeTakesEffectAtOnceAndIsStored()
@@ -80,9 +68,9 @@ private slots:
         QCOMPARE(changed.count(), 1);
         QCOMPARE(manager.language(), 2);
         QCOMPARE(SystemSettings::language(), 2);
-        QCOMPARE(manager.Text(TextId::SelectAll), QStringLiteral("全選"));
-        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Help"), QStringLiteral("說明"));
-        QCOMPARE(capture.lines(), QStringList{QStringLiteral("1 setLang settings=2")});
+        QCOMPARE(manager.Text(TextId::SelectAll), "全選"_s);
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Help"), "說明"_s);
+        QCOMPARE(capture.lines(), QStringList{"1 setLang settings=2"_s});
     }
 
     void tableKeepsItsWordingAndBounds()

@@ -1,12 +1,9 @@
 #include "base/log.h"
 
 #include "logcapture.h"
+#include "support/table.h"
 
-#include <QDateTime>
-#include <QDir>
-#include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QtTest>
 #include <atomic>
 #include <optional>
 #include <thread>
@@ -35,10 +32,11 @@ void setTime(const char *isoText)
 class TestLog : public QObject
 {
     Q_OBJECT
+    using LineTable = Table<LogLevel, QByteArray, QByteArray>;
 
     std::optional<QTemporaryDir> mDir;
 
-    QString folder() const { return mDir->filePath(QStringLiteral("log")); }
+    QString folder() const { return mDir->filePath("log"_s); }
 
     QByteArray content(const char *fileName) const
     {
@@ -64,12 +62,7 @@ private slots:
 
     void lineHasTimeTagTextAndOneLineEnd_data()
     {
-        QTest::addColumn<LogLevel>("level");
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QByteArray>("line");
-        const auto row = [](const char *name, LogLevel level, const QByteArray &text, const char *line) {
-            QTest::newRow(name) << level << text << QByteArray("2026-11-21T10:20:30.123 ") + line;
-        };
+        const LineTable row;
         row("warning, line end of its own", LogLevel::Warn, "text\n", "[Warn] text\n");
         row("error, several line ends", LogLevel::Error, "text\n\r\n", "[Error] text\n");
         row("debug", LogLevel::Debug, "text", "[debug] text\n");
@@ -81,12 +74,10 @@ private slots:
 
     void lineHasTimeTagTextAndOneLineEnd()
     {
-        QFETCH(LogLevel, level);
-        QFETCH(QByteArray, text);
-        QFETCH(QByteArray, line);
+        const auto [level, text, line] = LineTable::current();
         Log(level, "%s", text.constData());
         stopLog();
-        QCOMPARE(today(), line);
+        QCOMPARE(today(), "2026-11-21T10:20:30.123 " + line);
     }
 
     void textAroundTheFirstBufferIsCompleteAndASecondStartAppends()
@@ -136,8 +127,7 @@ private slots:
             thread.join();
         stopLog();
 
-        const QRegularExpression pattern(
-            QStringLiteral("^\\S{23} \\[(Info|Warn)\\] ([0-3]) (\\d+) tail tail tail$"));
+        const QRegularExpression pattern("^\\S{23} \\[(Info|Warn)\\] ([0-3]) (\\d+) tail tail tail$"_s);
         QVector<int> next(4, 0);
         const QStringList lines = QString::fromUtf8(today()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
         for (const QString &line : lines) {
@@ -152,11 +142,11 @@ private slots:
     {
         stopLog();
         const QDir dir(folder());
-        const QString outdated = QStringLiteral("application_20261021.log"); // 31 days
-        const QStringList kept{QStringLiteral("application_20261022.log"),   // 30 days
-                               QStringLiteral("application_20261121.log"),   // today
-                               QStringLiteral("application_20269999.log"),   // no date
-                               QStringLiteral("notes_20200101.log")};
+        const QString outdated = "application_20261021.log"_s; // 31 days
+        const QStringList kept{"application_20261022.log"_s,   // 30 days
+                               "application_20261121.log"_s,   // today
+                               "application_20269999.log"_s,   // no date
+                               "notes_20200101.log"_s};
         for (const QString &name : kept + QStringList(outdated)) {
             QFile file(dir.filePath(name));
             QVERIFY(file.open(QIODevice::WriteOnly));
@@ -210,8 +200,7 @@ private slots:
         QCOMPARE(capture.lines(), QStringList());
         outer.release();
         outer.release(); // harmless
-        QCOMPARE(capture.lines(),
-                 QStringList({QStringLiteral("1 outer"), QStringLiteral("1 inner, released: 1")}));
+        QCOMPARE(capture.lines(), texts({"1 outer", "1 inner, released: 1"}));
     }
 
     void hexDumpIsLowerCaseWithABlankBehindEachByte()

@@ -1,11 +1,8 @@
 #include "base/paths.h"
+#include "support/table.h"
 
 #include "logcapture.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
 #include <optional>
 
 using namespace vorlindesk;
@@ -19,11 +16,13 @@ class TestPaths : public QObject
 
     QString below(const QString &name) const { return mDir->filePath(name); }
 
+    using DirectoryTable = Table<QString, QString, QString>;
+
 private slots:
     void init()
     {
         mDir.emplace();
-        QFile file(below(QStringLiteral("file")));
+        QFile file(below("file"_s));
         QVERIFY(file.open(QIODevice::WriteOnly));
     }
 
@@ -32,37 +31,34 @@ private slots:
     void createPathReports()
     {
         LogCapture capture;
-        const QString made = below(QStringLiteral("a/b"));
+        const QString made = below("a/b"_s);
         QVERIFY(Paths::createPath(made));
         QVERIFY(QDir(made).exists());
         QVERIFY(Paths::createPath(made)); // nothing to do, nothing to say
-        const QString impossible = below(QStringLiteral("file/c"));
+        const QString impossible = below("file/c"_s);
         QVERIFY(!Paths::createPath(impossible));
-        QCOMPARE(capture.lines(), QStringList({QStringLiteral("1 createPath %1 success").arg(made),
-                                               QStringLiteral("3 createPath %1 fail").arg(impossible)}));
+        QCOMPARE(capture.lines(), QStringList({"1 createPath %1 success"_s.arg(made),
+                                               "3 createPath %1 fail"_s.arg(impossible)}));
     }
 
     void currentDirectoryIsChosen_data()
     {
-        QTest::addColumn<QString>("dataDir");
-        QTest::addColumn<QString>("firstFallback");
-        QTest::addColumn<QString>("chosen"); // empty: none
-        const QString wanted = QStringLiteral("new/data");
-        const QString bin = QStringLiteral("bin");
-        const QString inFile = QStringLiteral("file/data");
-        QTest::newRow("wanted one is made and overrides the rest") << wanted << bin << wanted;
-        QTest::newRow("unusable wanted one is not replaced by another") << inFile << bin << QString();
-        QTest::newRow("folder of the executable") << QString() << bin << bin;
-        QTest::newRow("data folder of the user") << QString() << inFile << QStringLiteral("user/data");
+        // chosen: empty: none
+        const DirectoryTable row;
+        const QString wanted = "new/data"_s;
+        const QString bin = "bin"_s;
+        const QString inFile = "file/data"_s;
+        row("wanted one is made and overrides the rest", wanted, bin, wanted);
+        row("unusable wanted one is not replaced by another", inFile, bin, {});
+        row("folder of the executable", {}, bin, bin);
+        row("data folder of the user", {}, inFile, "user/data");
     }
 
     void currentDirectoryIsChosen()
     {
-        QFETCH(QString, dataDir);
-        QFETCH(QString, firstFallback);
-        QFETCH(QString, chosen);
+        const auto [dataDir, firstFallback, chosen] = DirectoryTable::current();
         const QString asked = dataDir.isEmpty() ? QString() : below(dataDir);
-        const QStringList fallbacks{below(firstFallback), below(QStringLiteral("user/data"))};
+        const QStringList fallbacks{below(firstFallback), below("user/data"_s)};
         QCOMPARE(Paths::chooseCurrentDirectory(asked, fallbacks), !chosen.isEmpty());
         const QString expected = chosen.isEmpty() ? mOldCurrent : below(chosen);
         QCOMPARE(QDir::current().canonicalPath(), QDir(expected).canonicalPath());

@@ -2,7 +2,8 @@
 #pragma once
 
 #include "base/log.h"
-#include "platform/desktop.h"
+#include "support/recordingdesktop.h"
+#include "support/texts.h"
 
 #include <QBuffer>
 #include <QColor>
@@ -45,7 +46,7 @@ public:
     }
 
     /// The same, without those at debug level.
-    QStringList takeCalmLines() { return takeLines().filter(QRegularExpression(QStringLiteral("^[^4]"))); }
+    QStringList takeCalmLines() { return takeLines().filter(QRegularExpression("^[^4]"_s)); }
 
     QString path(const char *name) const
     {
@@ -104,28 +105,3 @@ inline QByteArray picture(const QSize &size, const QColor &colour, const char *f
     image.save(&buffer, format);
     return bytes;
 }
-
-/// Writes down what it is asked for, and opens nothing: lists in tests may come from random bytes.
-class RecordingDesktop : public vorlindesk::IDesktop
-{
-public:
-    bool openUrl(const QUrl &url) override
-    {
-        asked << u("url ") + url.toString();
-        return works;
-    }
-    bool openFile(const QString &path) override
-    {
-        asked << u("file ") + path;
-        return works;
-    }
-    void setClipboardText(const QString &) override { asked << u("clipboard"); }
-    bool pressPaste() override
-    {
-        asked << u("paste");
-        return works;
-    }
-
-    bool works = true;
-    QStringList asked; ///< texts to be typed too, in order with the others
-};

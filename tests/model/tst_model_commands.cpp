@@ -32,7 +32,7 @@ private slots:
         mpStore = std::make_unique<FunctionManager>();
         mpStore->setDesktop(mDesktop);
         mpStore->setTextOutput([this](int fid, const QString &text) {
-            mDesktop.asked << u("type %1 %2").arg(QString::number(fid), text);
+            mDesktop.calls << u("type %1 %2").arg(QString::number(fid), text);
         });
         QVERIFY(mpStore->Init());
         mpFixture->takeLines();
@@ -49,11 +49,11 @@ private slots:
         QCOMPARE(outcome(1, "unused"), u("true: url https://duckduckgo.com/, 1 open home page ok"));
         QCOMPARE(outcome(2, "/a b"), u("true: file /a b"));
         QCOMPARE(outcome(3, "http://a.test/?q=好"),
-                 u("true: url http://a.test/?q=好, 1 open http://a.test/?q=好 ok"));
+                 u("true: url http://a.test/?q=%E5%A5%BD, 1 open http://a.test/?q=好 ok"));
         QCOMPARE(outcome(15, "hi"), u("false: type 15 hi")); // typed elsewhere
         for (const int fid : {0, 4, 16, 100, -3})
             QCOMPARE(outcome(fid, "x"), u("false: "));
-        mDesktop.works = false;
+        mDesktop.succeeds = false;
         QCOMPARE(outcome(1, ""), u("false: url https://duckduckgo.com/, 3 open home page fail"));
         QCOMPARE(outcome(2, "/x"), u("false: file /x"));
         QCOMPARE(outcome(3, "nowhere"), u("false: url nowhere, 3 open nowhere fail"));
@@ -66,7 +66,7 @@ private slots:
                                 entry(15, hex("4F004B00")) + entry(16, hex("E006")) + hex("2A0000") +
                                 hex("000000");
         QVERIFY(!take(16, list));
-        QCOMPARE(mDesktop.asked, (QStringList{u("url http://a.test/"), u("type 15 OK")}));
+        QCOMPARE(mDesktop.calls, texts({"url http://a.test/", "type 15 OK"}));
         const QStringList lines = mpFixture->takeLines();
         QCOMPARE(lines.filter(u("execCommand")).size(), 6);
         QVERIFY(lines.contains(u("1 -----tmpAdditonal[224][6][0][0]")));
@@ -79,7 +79,7 @@ private slots:
                                 entry(16, hex("E006")) + hex("050000");
         mpStore->setRecvTotalKeyCount(0);
         QVERIFY(!take(15, list)); // false although no picture is missing
-        QVERIFY(mDesktop.asked.isEmpty());
+        QVERIFY(mDesktop.calls.isEmpty());
         QCOMPARE(multiActionStore().readActionsByKeyId(1, 2, 3),
                  (QVector<MultiAction>{{2, 0, u("/a b")},
                                        {100, 1000, {}},
@@ -93,7 +93,7 @@ private slots:
         for (const QByteArray &list : {hex("05"), hex("FFFF"), hex("0600 000000 000000")}) {
             QVERIFY(!take(15, list) && !take(16, list));
             QCOMPARE(storedBytes(), 0);
-            QVERIFY(mDesktop.asked.isEmpty());
+            QVERIFY(mDesktop.calls.isEmpty());
         }
     }
 
@@ -122,7 +122,7 @@ private:
         const QString head = u("1 execCommand Layoutid:1 Pageid:2 Keyid:3 fid:%1 ").arg(fid);
         if (lines.value(0) != head)
             return u("not logged");
-        const QStringList rest = std::exchange(mDesktop.asked, {}) + lines.mid(1);
+        const QStringList rest = std::exchange(mDesktop.calls, {}) + lines.mid(1);
         return (result ? u("true: ") : u("false: ")) + rest.join(u(", "));
     }
 

@@ -55,18 +55,18 @@ private slots:
     void sizeFollowsTheLayout()
     {
         // The standard layout is not read from the file.
-        writeLayouts("[layout_1]\nnum=1\n1_bitmap=3\n[layout_4]\nnum=6\n1_bitmap=16384\n2_bitmap=99\n"
-                     "3_bitmap=30\n4_bitmap=1057\n5_bitmap=32767\n6_bitmap=0\n");
+        writeLayouts("[layout_1]\nnum=1\n1_bitmap=3\n[layout_4]\nnum=5\n1_bitmap=16384\n2_bitmap=99\n"
+                     "3_bitmap=28\n4_bitmap=4224\n5_bitmap=0\n[layout_5]\nnum=1\n1_bitmap=32767\n");
         const QSize single(90, 84);
         QCOMPARE(keyPixelSize({1, 1, 1}), single);
         QCOMPARE(keyPixelSize({9, 1, 1}), single); // unknown layout
         QCOMPARE(keyPixelSize({4, 1, 1}), single);
         QCOMPARE(keyPixelSize({4, 1, 2}), QSize(180, 168));
-        QCOMPARE(keyPixelSize({4, 1, 3}), QSize(360, 84));
-        QCOMPARE(keyPixelSize({4, 1, 4}), QSize(90, 252));
-        QCOMPARE(keyPixelSize({4, 1, 5}), QSize(450, 252));
-        QCOMPARE(keyPixelSize({4, 1, 6}), single); // no physical key
-        QCOMPARE(keyPixelSize({4, 1, 7}), single); // beyond the layout
+        QCOMPARE(keyPixelSize({4, 1, 3}), QSize(270, 84));
+        QCOMPARE(keyPixelSize({4, 1, 4}), QSize(90, 168));
+        QCOMPARE(keyPixelSize({5, 1, 1}), QSize(450, 252));
+        QCOMPARE(keyPixelSize({4, 1, 5}), single); // no physical key
+        QCOMPARE(keyPixelSize({4, 1, 6}), single); // beyond the layout
     }
 
     void encodedPictureHasTheKeysSizeAndNoAlpha()

@@ -3,8 +3,6 @@
 #include "model/picturefolder.h"
 #include "storefixture.h"
 
-#include <QElapsedTimer>
-#include <QRandomGenerator>
 #include <QtTest>
 
 using namespace vorlinmodel;
@@ -119,19 +117,12 @@ private slots:
         load(page(record(0, 5) + record(15, 5) + record(16, 5) + record('\xFF', 5)));
         QCOMPARE(mpStore->getKeys(), (QList<key_id_t>{{1, 2, 15}}));
         QCOMPARE(mpFixture->takeLines().filter(u("3 Error keyid")),
-                 (QStringList{u("3 Error keyid Layoutid:1 Pageid:2,nKeyoutId=0 "),
-                              u("3 Error keyid Layoutid:1 Pageid:2,nKeyoutId=16 "),
-                              u("3 Error keyid Layoutid:1 Pageid:2,nKeyoutId=255 ")}));
+                 texts({"3 Error keyid Layoutid:1 Pageid:2,nKeyoutId=0 ",
+                        "3 Error keyid Layoutid:1 Pageid:2,nKeyoutId=16 ",
+                        "3 Error keyid Layoutid:1 Pageid:2,nKeyoutId=255 "}));
         QVERIFY(!takePicture(0, mRed) && !takePicture(15, mRed) && !takePicture(16, mRed));
         QVERIFY(takePicture('\xFF', mRed)); // one picture came for each of the four
         QCOMPARE(pictures(), QStringList{u("1_2_15.png")});
-    }
-
-    void sameKeyTwiceKeepsTheLaterRecord()
-    {
-        load(page(record(3, 5) + record(3, 6)));
-        QCOMPARE(mpStore->getKeyAttribute({1, 2, 3})->mFId, 6);
-        QCOMPARE(mpStore->getReceivedCounts().total, 2);
     }
 
     void onlyAsManyRecordsAsKeysArePaced()
@@ -188,16 +179,6 @@ private slots:
         }
     }
 
-    void pictureThatCannotBeWritten()
-    {
-        load(page(record(3, 5)));
-        QVERIFY(QDir().mkpath(path())); // a folder in the way
-        QVERIFY(takePicture(3, mRed));
-        QCOMPARE(mpFixture->takeLines().filter(QRegularExpression(u("^[23]"))),
-                 (QStringList{u("2 remove failed:") + path(), mNotSaved.arg(path())}));
-        QVERIFY(mpStore->getCustomImage({1, 2, 3}).isEmpty());
-    }
-
 #ifndef Q_OS_WIN
     void pictureOnAFullDiskKeepsTheOldOne()
     {
@@ -248,7 +229,7 @@ private slots:
         for (const char *name : {"1_2_3.png", "1_2_15.png", "11_2_3.png", "1_22_3.png", "imageUrl.ini"})
             QVERIFY(QFile(mpFixture->path("devConfig/image/") + u(name)).open(QIODevice::WriteOnly));
         removePagePictures(1, 2);
-        QCOMPARE(pictures(), (QStringList{u("11_2_3.png"), u("1_22_3.png"), u("imageUrl.ini")}));
+        QCOMPARE(pictures(), texts({"11_2_3.png", "1_22_3.png", "imageUrl.ini"}));
         QVERIFY(QDir().mkpath(mpFixture->path("devConfig/image/sub/folder")));
         QVERIFY(emptyPictureFolder());
         QCOMPARE(pictures(), QStringList());

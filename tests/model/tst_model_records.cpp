@@ -1,10 +1,7 @@
-/// Key attribute records: create, set, read, show, delete, and the lines that they log. The catalogue of
-/// functions that they take their icons from.
-#include "model/functioncatalogue.h"
+/// Key attribute records: create, set, read, show, delete, and the lines that they log.
 #include "model/functionmanager.h"
 #include "storefixture.h"
-
-#include <QtTest>
+#include "support/table.h"
 
 using namespace vorlinmodel;
 
@@ -15,6 +12,8 @@ constexpr key_id_t Key{1, 2, 3};
 class RecordsTest : public QObject
 {
     Q_OBJECT
+    using IconsTable = Table<int, QString, QString>;
+
 private slots:
     void init() { mpFixture = std::make_unique<StoreFixture>(); }
     void cleanup() { mpFixture.reset(); }
@@ -24,30 +23,14 @@ private slots:
         FunctionManager store;
         QVERIFY(store.createKeyAttribute(1, 2, 3, 5));
         QVERIFY(!store.createKeyAttribute(Key, 6));
-        QCOMPARE(mpFixture->takeLines(),
-                 (QStringList{u("1 -createKeyAttr-lid:1 pageid:2 kid:3 fid:5"),
-                              u("1 new key_atttribute_t ok-lid:1 pageid:2 kid:3 fid:5"),
-                              u("1 -createKeyAttr-lid:1 pageid:2 kid:3 fid:6"),
-                              u("2 lid:1 pageid:2 kid:3  fid:6 keyattribute exist")}));
+        QCOMPARE(mpFixture->takeLines(), texts({"1 -createKeyAttr-lid:1 pageid:2 kid:3 fid:5",
+                                                "1 new key_atttribute_t ok-lid:1 pageid:2 kid:3 fid:5",
+                                                "1 -createKeyAttr-lid:1 pageid:2 kid:3 fid:6",
+                                                "2 lid:1 pageid:2 kid:3  fid:6 keyattribute exist"}));
         QCOMPARE(store.getAllAttribute(Key),
                  u("fid=5 displayImageType=0 defaultImage=:/icon/function_icon/Play_Stop_90x84.png "
                    "customImage= imageEffects=0 displayMode=0 title= titleAlignment=0 titleFontSize=16 "
                    "titleColour=#00ff00 appOrUrl="));
-    }
-
-    void addReplacesInPlace()
-    {
-        FunctionManager store;
-        QVERIFY(store.addKeyAttribute(Key, 5));
-        store.setTitle(Key, u("old"));
-        store.setCustomImage(Key, u("/old.png"));
-        QVERIFY(store.addKeyAttribute(Key, 16));
-        QCOMPARE(
-            store.getAllAttribute(Key),
-            u("fid=16 displayImageType=0 defaultImage=:/icon/shortcut_icon/Hot_Key_Compund_Key_90x84.png "
-              "customImage= imageEffects=0 displayMode=0 title= titleAlignment=0 titleFontSize=16 "
-              "titleColour=#00ff00 appOrUrl="));
-        QCOMPARE(store.getKeys(), QList<key_id_t>{Key});
     }
 
     void settersAssignAndLog()
@@ -78,40 +61,27 @@ private slots:
                    "appOrUrl=Left Ctrl#C##"));
     }
 
-    void onlyTheImageChangesWhatIsShown()
-    {
-        FunctionManager store;
-        store.createKeyAttribute(Key, 17);
-        store.setCustomVideo(Key, u("/a.mp4"));
-        QCOMPARE(store.getDisplayImage(Key), u("/a.mp4"));
-        store.setCustomImage(Key, u("/a.png"));
-        QCOMPARE(store.getDisplayImage(Key), u("/a.png"));
-    }
-
     void emptyContentIcons_data()
     {
-        QTest::addColumn<int>("fid");
-        QTest::addColumn<QString>("image");
-        QTest::addColumn<QString>("shown"); // while no configuration is read
-
+        // shown: while no configuration is read
+        const IconsTable row;
         const QString childPage = u(":/icon/child_page_empty.png");
-        QTest::newRow("text") << 15 << u(":/icon/shortcut_icon/text_output_empty.png")
-                              << u(":/icon/shortcut_icon/Hot_Key_90x84.png");
-        QTest::newRow("child page") << 18 << childPage << u(":/icon/Hot_Key_Children_Key.png");
-        QTest::newRow("icon of another function") << 15 << childPage << childPage;
-        QTest::newRow("compared whole") << 18 << u("x") + childPage << u("x") + childPage;
+        row("text", 15, u(":/icon/shortcut_icon/text_output_empty.png"),
+            u(":/icon/shortcut_icon/Hot_Key_90x84.png"));
+        row("child page", 18, childPage, u(":/icon/Hot_Key_Children_Key.png"));
+        row("icon of another function", 15, childPage, childPage);
+        row("compared whole", 18, u("x") + childPage, u("x") + childPage);
     }
 
     void emptyContentIcons()
     {
-        QFETCH(int, fid);
-        QFETCH(QString, image);
+        const auto [fid, image, shown] = IconsTable::current();
         FunctionManager store;
         store.createKeyAttribute(Key, fid);
         store.setCustomVideo(Key, image); // into the default image, which the rule covers too
-        QTEST(store.getDisplayImage(Key), "shown");
+        QCOMPARE(store.getDisplayImage(Key), shown);
         store.setCustomImage(Key, image);
-        QTEST(store.getDisplayImage(Key), "shown");
+        QCOMPARE(store.getDisplayImage(Key), shown);
         store.setModeFlag(true);
         QCOMPARE(store.getDisplayImage(Key), image);
     }
@@ -159,25 +129,6 @@ private slots:
         QFile obstacle(mpFixture->path("devConfig")); // a file where the folder should be
         QVERIFY(obstacle.open(QIODevice::WriteOnly));
         QVERIFY(!FunctionManager().Init());
-    }
-
-    void catalogue()
-    {
-        const FunctionManager store;
-        QList<int> functions;
-        for (int i = -1; i <= store.getFunctionListCount(); ++i)
-            functions << store.getFunctionListFid(i);
-        QCOMPARE(functions, (QList<int>{0, 4, 5, 6, 7, 8, 9, 10, 13, 14, 0}));
-        QList<int> shortcuts;
-        for (int i = -1; i <= store.getShortcutListCount(); ++i)
-            shortcuts << store.getShortcutListFid(i);
-        QCOMPARE(shortcuts, (QList<int>{0, 15, 16, 18, 19, 100, 0}));
-
-        QCOMPARE(FunctionCatalogue::textId(12), 45); // has a text, but is in no list
-        QCOMPARE(FunctionCatalogue::textId(-4), 0);
-        // Each list answers only for its own functions.
-        QVERIFY(!store.getFunctionListIcon(14).isEmpty() && store.getFunctionListIcon(15).isEmpty());
-        QVERIFY(store.getShortcutListIcon(14).isEmpty() && !store.getShortcutListIcon(15).isEmpty());
     }
 
 private:

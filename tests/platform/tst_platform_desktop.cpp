@@ -1,10 +1,9 @@
 /// Opening files and pressing paste, on the system that the test runs on.
 #include "platform/desktop.h"
+#include "support/texts.h"
 
 #include <QDesktopServices>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QUrl>
+#include <QtTest>
 
 #ifdef Q_OS_WIN
 #include <windows.h>
@@ -40,10 +39,10 @@ private slots:
     void startsAProgram_data()
     {
         QTest::addColumn<QString>("folder");
-        QTest::newRow("blanks") << QStringLiteral("two blanks here");
-        QTest::newRow("ampersand without blanks") << QStringLiteral("r&d");
-        QTest::newRow("brackets, caret") << QStringLiteral("a (1)^b");
-        QTest::newRow("Chinese") << QStringLiteral("面板");
+        QTest::newRow("blanks") << "two blanks here"_s;
+        QTest::newRow("ampersand without blanks") << "r&d"_s;
+        QTest::newRow("brackets, caret") << "a (1)^b"_s;
+        QTest::newRow("Chinese") << "面板"_s;
     }
 
     void startsAProgram()
@@ -53,15 +52,14 @@ private slots:
         const QString base = dir.path() + QLatin1Char('/') + folder;
 #ifdef Q_OS_WIN
         const QString program =
-            write(base + QStringLiteral("/start me.cmd"), "@echo off\r\ncd . > \"%~dp0started\"\r\nexit\r\n");
+            write(base + "/start me.cmd"_s, "@echo off\r\ncd . > \"%~dp0started\"\r\nexit\r\n");
 #else
-        const QString program = write(base + QStringLiteral("/start me"), "#!/bin/sh\n: > \"$0ed\"\n");
+        const QString program = write(base + "/start me"_s, "#!/bin/sh\n: > \"$0ed\"\n");
 #endif
         QVERIFY(!program.isEmpty());
         QVERIFY(systemDesktop().openFile(QDir::toNativeSeparators(program)));
         // The name of the file that tells it: "start me" + "ed", or "started" beside the program.
-        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(base + QStringLiteral("/start meed")) ||
-                                     QFile::exists(base + QStringLiteral("/started")),
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(base + "/start meed"_s) || QFile::exists(base + "/started"_s),
                                  20000);
     }
 
@@ -70,12 +68,12 @@ private slots:
     {
         QTemporaryDir dir;
         UrlRecorder recorder;
-        QDesktopServices::setUrlHandler(QStringLiteral("file"), &recorder, "open");
-        const QString path = write(dir.filePath(QStringLiteral("a b#c.txt")), "text");
+        QDesktopServices::setUrlHandler("file"_s, &recorder, "open");
+        const QString path = write(dir.filePath("a b#c.txt"_s), "text");
         QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner));
         QVERIFY(systemDesktop().openFile(path));
         QVERIFY(systemDesktop().openFile(dir.path())); // a folder is executable, but no program
-        QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+        QDesktopServices::unsetUrlHandler("file"_s);
         const QList<QUrl> expected = {QUrl::fromLocalFile(path), QUrl::fromLocalFile(dir.path())};
         QCOMPARE(recorder.opened, expected);
         QVERIFY(!systemDesktop().openFile(QString()));
@@ -99,16 +97,13 @@ private slots:
                 const auto *key = reinterpret_cast<const KBDLLHOOKSTRUCT *>(data);
                 // The system tells left and right apart; the stroke does not.
                 const DWORD plain = key->vkCode == VK_LCONTROL ? DWORD{VK_CONTROL} : key->vkCode;
-                seen << QStringLiteral("%1 %2")
-                            .arg(plain, 0, 16)
-                            .arg(message == WM_KEYDOWN ? QStringLiteral("down") : QStringLiteral("up"));
+                seen << "%1 %2"_s.arg(plain, 0, 16).arg(message == WM_KEYDOWN ? "down"_s : "up"_s);
                 return CallNextHookEx(nullptr, code, message, data);
             },
             GetModuleHandleW(nullptr), 0);
         QVERIFY(hook != nullptr);
         QVERIFY(systemDesktop().pressPaste());
-        const QStringList expected = {QStringLiteral("11 down"), QStringLiteral("56 down"),
-                                      QStringLiteral("56 up"), QStringLiteral("11 up")};
+        const QStringList expected = {"11 down"_s, "56 down"_s, "56 up"_s, "11 up"_s};
         QTRY_COMPARE(seen, expected);
         UnhookWindowsHookEx(hook);
     }

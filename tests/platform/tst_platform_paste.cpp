@@ -1,9 +1,8 @@
 /// Pressing paste under X11, as a window of another connection sees it. Brings its own X server.
 #include "platform/desktop.h"
+#include "support/texts.h"
 
-#include <QProcess>
-#include <QStandardPaths>
-#include <QTest>
+#include <QtTest>
 
 // Last, since their macros break Qt's headers; those that QtTest needs go again.
 #include <X11/Xlib.h>
@@ -21,12 +20,11 @@ class TestPlatformPaste : public QObject
 private slots:
     void initTestCase()
     {
-        const QString program = QStandardPaths::findExecutable(QStringLiteral("Xvfb"));
+        const QString program = QStandardPaths::findExecutable("Xvfb"_s);
         if (program.isEmpty())
             QSKIP("needs Xvfb");
         // The server chooses a free number and writes it when it is ready.
-        mServer.start(program, {QStringLiteral("-displayfd"), QStringLiteral("1"),
-                                QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+        mServer.start(program, {"-displayfd"_s, "1"_s, "-nolisten"_s, "tcp"_s});
         QVERIFY(mServer.waitForReadyRead(20000));
         qputenv("DISPLAY", ":" + mServer.readAllStandardOutput().trimmed());
     }
@@ -59,8 +57,8 @@ private slots:
             seen << QString::fromLatin1(press ? "+" : "-") + QString::fromLatin1(XKeysymToString(symbol)) +
                         QString::fromLatin1((event.xkey.state & ControlMask) ? " with Ctrl" : "");
         }
-        const QStringList expected = {QStringLiteral("+Control_L"), QStringLiteral("+v with Ctrl"),
-                                      QStringLiteral("-v with Ctrl"), QStringLiteral("-Control_L with Ctrl")};
+        const QStringList expected = {"+Control_L"_s, "+v with Ctrl"_s, "-v with Ctrl"_s,
+                                      "-Control_L with Ctrl"_s};
         QCOMPARE(seen, expected);
         XCloseDisplay(display);
     }

@@ -1,7 +1,7 @@
 /// Sleeping: never shorter than asked for, and close to it.
 #include "platform/timing.h"
 
-#include <QTest>
+#include <QtTest>
 #include <algorithm>
 
 #ifdef Q_OS_UNIX

@@ -36,17 +36,15 @@ private:
             .messageReceived =
                 [this](const quint8 *bytes, int length) {
                     const QByteArray message(reinterpret_cast<const char *>(bytes), length);
-                    events << QStringLiteral("message ") + QString::fromLatin1(message.toHex(' '));
+                    events << "message "_s + QString::fromLatin1(message.toHex(' '));
                 },
-            .keyPressed =
-                [this](int lid, int pageid, int kid) {
-                    events << QStringLiteral("key %1/%2/%3").arg(lid).arg(pageid).arg(kid);
-                },
-            .reassemblyStarted = [this] { events << QStringLiteral("reassembly"); },
+            .keyPressed = [this](int lid, int pageid,
+                                 int kid) { events << "key %1/%2/%3"_s.arg(lid).arg(pageid).arg(kid); },
+            .reassemblyStarted = [this] { events << "reassembly"_s; },
             .interrupted = [this] { return interrupted(); },
             .pause =
                 [this](int milliseconds) {
-                    events << QStringLiteral("pause %1").arg(milliseconds);
+                    events << "pause %1"_s.arg(milliseconds);
                     return --endPauseAfter != 0;
                 },
         };

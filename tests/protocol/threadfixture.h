@@ -87,20 +87,18 @@ private:
             QObject::connect(&thread, signal, &thread, record, Qt::DirectConnection);
         };
         const auto onNumber = [on](auto signal, const char *name) {
-            on(signal, [name](qint32 n) { return QStringLiteral("%1 %2").arg(QLatin1String(name)).arg(n); });
+            on(signal, [name](qint32 n) { return "%1 %2"_s.arg(QLatin1String(name)).arg(n); });
         };
-        on(&Thread::sigUsbConnectState, [](bool connected) {
-            return connected ? QStringLiteral("connected") : QStringLiteral("disconnected");
-        });
-        on(&Thread::logMessageSignal, [](const QString &text) { return QStringLiteral("log ") + text; });
+        on(&Thread::sigUsbConnectState,
+           [](bool connected) { return connected ? "connected"_s : "disconnected"_s; });
+        on(&Thread::logMessageSignal, [](const QString &text) { return "log "_s + text; });
         on(&Thread::sigDealRecvData, [](const quint8 *bytes, qint32 length) {
             const QByteArray message(reinterpret_cast<const char *>(bytes), length);
-            return QStringLiteral("received ") + QString::fromLatin1(message.toHex(' '));
+            return "received "_s + QString::fromLatin1(message.toHex(' '));
         });
-        on(&Thread::sigDealExecCommand, [](qint32 fid, const QString &command) {
-            return QStringLiteral("exec %1 %2").arg(fid).arg(command);
-        });
-        on(&Thread::sigSendScriptFinished, [] { return QStringLiteral("script"); });
+        on(&Thread::sigDealExecCommand,
+           [](qint32 fid, const QString &command) { return "exec %1 %2"_s.arg(fid).arg(command); });
+        on(&Thread::sigSendScriptFinished, [] { return "script"_s; });
         onNumber(&Thread::sigSendVideoFinished, "video");
         onNumber(&Thread::sigSendUpdateAvailable, "available");
         onNumber(&Thread::sigUpgradeFinished, "finished");

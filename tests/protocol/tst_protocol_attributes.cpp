@@ -1,10 +1,10 @@
 #include "model/functionids.h"
 #include "model/multiaction.h"
+#include "support/table.h"
 #include "threadfixture.h"
 
 #include <QColor>
 #include <QImage>
-#include <QtTest>
 
 namespace {
 
@@ -28,6 +28,8 @@ void fill(vorlinmodel::FunctionManager &store, int fid, const QString &text)
 class AttributesTest : public QObject
 {
     Q_OBJECT
+    using VideoTable = Table<QString, bool>;
+
 private slots:
     void writes_data()
     {
@@ -44,7 +46,7 @@ private slots:
         row("image effects", 1, 5, none, hex("01 05 00 00 00 01 02 03 01 03"));
         row("display mode", 2, 5, none, hex("01 05 00 00 00 01 02 03 02 01"));
         row("title alignment", 3, 5, none, hex("01 05 00 00 00 01 02 03 03 02"));
-        row("title", 6, 5, QStringLiteral("中a"), hex("01 08 00 00 00 01 02 03 06 03 d6 d0 61"),
+        row("title", 6, 5, "中a"_s, hex("01 08 00 00 00 01 02 03 06 03 d6 d0 61"),
             "1 processTitleAttribute strTitle:中a");
         row("empty title", 6, 5, none, hex("01 05 00 00 00 01 02 03 06 00"));
         row("longest title that goes by itself", 6, 5, QString(47, QLatin1Char('t')),
@@ -55,13 +57,11 @@ private slots:
             hex("01 84 00 00 00 01 02 03 06 7f") + 't' + hex("d6d0").repeated(63), "1 transfer 3 block data");
         row("font size", 7, 5, none, hex("01 05 00 00 00 01 02 03 07 18"));
         row("function id", 8, 15, none, hex("01 05 00 00 00 01 02 03 08 0f"));
-        row("address", 11, 3, QStringLiteral("http://a"),
-            hex("01 0d 00 00 00 01 02 03 0b 08 68 74 74 70 3a 2f 2f 61"));
+        row("address", 11, 3, "http://a"_s, hex("01 0d 00 00 00 01 02 03 0b 08 68 74 74 70 3a 2f 2f 61"));
         row("colour: the line swaps blue and green", 12, 5, none, hex("01 07 00 00 00 01 02 03 0c 11 22 33"),
             "1 processDisplayModeAttribute color r:17 g:51 b:34");
         row("clear the key", 13, 5, none, hex("01 04 00 00 00 01 02 03 0d"));
-        row("key combination", 14, 16, QStringLiteral("Left Ctrl#C##"),
-            hex("01 08 00 00 00 01 02 03 0e e0 06 00 00"),
+        row("key combination", 14, 16, "Left Ctrl#C##"_s, hex("01 08 00 00 00 01 02 03 0e e0 06 00 00"),
             "1 --------nKey1[E0] nKey2[06] nKey3[00] nKey4[00] ");
         row("empty key combination", 14, 16, none, hex("01 08 00 00 00 01 02 03 0e 00 00 00 00"));
         row("no actions", 15, 4, none, hex("01 06 00 00 00 01 02 03 0f 00 00"),
@@ -108,12 +108,10 @@ private slots:
         ThreadFixture fixture;
         fixture.store.createKeyAttribute(Key, vorlinmodel::MULTIPLE_ACTIONS_FID);
         QString error;
-        QVERIFY(vorlinmodel::multiActionStore().writeActionsByKeyId(1, 2, 3,
-                                                                    {{100, 0x1234, {}},
-                                                                     {16, 0, QStringLiteral("Left Ctrl")},
-                                                                     {5, 9, {}},
-                                                                     {2, 0, QString(200, QLatin1Char('p'))}},
-                                                                    error));
+        QVERIFY(vorlinmodel::multiActionStore().writeActionsByKeyId(
+            1, 2, 3,
+            {{100, 0x1234, {}}, {16, 0, "Left Ctrl"_s}, {5, 9, {}}, {2, 0, QString(200, QLatin1Char('p'))}},
+            error));
         fixture.post(MD_FUNCTION_CODE_KEY_ATTRIBUTE, 1, 2, 3, 0, 15);
         fixture.thread.start();
         const QByteArray entries = hex("64 34 12") + hex("10 00 00 e0") + QByteArray(127, '\0') +
@@ -132,10 +130,10 @@ private slots:
         for (const QByteArray &file : {overlong, QByteArray("{")}) {
             ThreadFixture fixture;
             fixture.store.createKeyAttribute(Key, vorlinmodel::MULTIPLE_ACTIONS_FID);
-            writeFile(QStringLiteral("devConfig/multiActions.json"), file);
+            writeFile("devConfig/multiActions.json"_s, file);
             fixture.post(MD_FUNCTION_CODE_KEY_ATTRIBUTE, 1, 2, 3, 0, 15);
             fixture.thread.start();
-            QTRY_VERIFY(fixture.log.lines().contains(QStringLiteral("3 transfer MultiActions error")));
+            QTRY_VERIFY(fixture.log.lines().contains("3 transfer MultiActions error"_s));
             QVERIFY(fixture.messages().isEmpty()); // the panel keeps what it has
         }
     }
@@ -145,14 +143,14 @@ private slots:
         ThreadFixture fixture;
         QImage image(10, 10, QImage::Format_RGB32);
         image.fill(Qt::red);
-        QVERIFY(image.save(QStringLiteral("red.png")));
+        QVERIFY(image.save("red.png"_s));
         fixture.store.createKeyAttribute(Key, 5);
-        fixture.store.setCustomImage(Key, QDir::current().filePath(QStringLiteral("red.png")));
+        fixture.store.setCustomImage(Key, QDir::current().filePath("red.png"_s));
         for (const quint32 id : {5U, 9U})
             fixture.post(MD_FUNCTION_CODE_KEY_ATTRIBUTE, 1, 2, 3, 0, id);
         fixture.thread.start();
         QTRY_COMPARE(fixture.messages().size(), 2);
-        QVERIFY(fixture.messages().at(0).contains(QLatin1String(" 00 00 01 02 03 05 ")));
+        QVERIFY(fixture.messages().at(0).contains(" 00 00 01 02 03 05 "_s));
         const QByteArray message = QByteArray::fromHex(fixture.messages().at(1).toLatin1());
         QCOMPARE(message.mid(5, 4), hex("01 02 03 09"));
         const QByteArray file = message.mid(13);
@@ -163,20 +161,18 @@ private slots:
 
     void video_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<bool>("sent");
-        QTest::newRow("sent") << QStringLiteral("film.mp4") << true;
-        QTest::newRow("missing file") << QStringLiteral("none.mp4") << false;
-        QTest::newRow("icon of the function") << QStringLiteral(":/icon/x.png") << false;
-        QTest::newRow("no record") << QString() << false;
+        const VideoTable row;
+        row("sent", "film.mp4", true);
+        row("missing file", "none.mp4", false);
+        row("icon of the function", ":/icon/x.png", false);
+        row("no record", {}, false);
     }
 
     void video()
     {
-        QFETCH(QString, path);
-        QFETCH(bool, sent);
+        const auto [path, sent] = VideoTable::current();
         ThreadFixture fixture;
-        writeFile(QStringLiteral("film.mp4"), "abc");
+        writeFile("film.mp4"_s, "abc");
         if (!path.isEmpty()) {
             fixture.store.createKeyAttribute(Key, 5);
             fixture.store.setCustomVideo(Key, path);

@@ -1,12 +1,13 @@
 #include "base/systemsettings.h"
 #include "model/scriptcontainer.h"
+#include "support/table.h"
 #include "threadfixture.h"
-
-#include <QtTest>
 
 class DeviceRequestsTest : public QObject
 {
     Q_OBJECT
+    using UploadTable = Table<QString, QByteArray>;
+
 private slots:
     void singleMessages()
     {
@@ -59,7 +60,7 @@ private slots:
     {
         ThreadFixture fixture;
         // The title "L" and two keys: physical 1 to 2, and 6.
-        writeFile(QStringLiteral("devConfig/customLayout.ini"),
+        writeFile("devConfig/customLayout.ini"_s,
                   "[layout_7]\nnum=2\nname=L\nphyid_1=\"1#1#1&2#1#2&\"\nphyid_2=\"6#2#1&\"\n1_bitmap=3\n"
                   "2_bitmap=32\n");
         vorlindesk::SystemSettings::setHomeLayoutEntries({{2, 1, 3, 4}, {15, -1, -1, -1}});
@@ -69,9 +70,8 @@ private slots:
         fixture.thread.start();
         const QByteArray custom =
             hex("0d 8a 00 00 00 07 01 02 00 4c") + QByteArray(127, '\0') + hex("01 01 02 02 06 06");
-        QTRY_COMPARE(fixture.messages(),
-                     QStringList({QString::fromLatin1(custom.toHex(' ')),
-                                  QStringLiteral("11 0a 00 00 00 06 02 02 01 03 04 0f ff ff ff")}));
+        QTRY_COMPARE(fixture.messages(), QStringList({QString::fromLatin1(custom.toHex(' ')),
+                                                      "11 0a 00 00 00 06 02 02 01 03 04 0f ff ff ff"_s}));
         QTRY_COMPARE(fixture.linesWith("Layout success"),
                      texts({"1 transfer CustomLayout success", "1 transfer HomeLayout success"}));
         QCOMPARE(fixture.linesWith("does not exist"), texts({"3 custom layout 8 does not exist"}));
@@ -93,17 +93,16 @@ private slots:
 
     void upload_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("nameField"); // 32 bytes
-        QTest::newRow("cut on a whole character") << QString(31, QLatin1Char('n')) + QStringLiteral("中.bin")
-                                                  << QByteArray(31, 'n') + QByteArray(1, '\0');
-        QTest::newRow("just fits") << QString(32, QLatin1Char('n')) << QByteArray(32, 'n');
+        // nameField: 32 bytes
+        const UploadTable row;
+        row("cut on a whole character", QString(31, QLatin1Char('n')) + "中.bin"_s,
+            QByteArray(31, 'n') + QByteArray(1, '\0'));
+        row("just fits", QString(32, QLatin1Char('n')), QByteArray(32, 'n'));
     }
 
     void upload()
     {
-        QFETCH(QString, name);
-        QFETCH(QByteArray, nameField);
+        const auto [name, nameField] = UploadTable::current();
         ThreadFixture fixture;
         writeFile(name, "xyz");
         fixture.postFile(MD_FUNCTION_CODE_UPLOAD_FILE, QDir::current().filePath(name));
@@ -115,8 +114,8 @@ private slots:
     void uploadThatCannotBeSent()
     {
         ThreadFixture fixture;
-        writeFile(QStringLiteral("large"), {});
-        QVERIFY(QFile::resize(QStringLiteral("large"), 10 * 1024 * 1024 - 37)); // message of 10 MiB + 1
+        writeFile("large"_s, {});
+        QVERIFY(QFile::resize("large"_s, 10 * 1024 * 1024 - 37)); // message of 10 MiB + 1
         for (const QString &name : texts({"none", "large", "devConfig"}))
             fixture.postFile(MD_FUNCTION_CODE_UPLOAD_FILE, name);
         fixture.thread.start();

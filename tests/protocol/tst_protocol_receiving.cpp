@@ -1,4 +1,5 @@
 #include "protocolfixture.h"
+#include "support/table.h"
 
 #include <QtTest>
 
@@ -17,7 +18,7 @@ QByteArray report(int flag, const QByteArray &payload)
 
 QString message(const QByteArray &bytes)
 {
-    return QStringLiteral("message ") + QString::fromLatin1(bytes.toHex(' '));
+    return "message "_s + QString::fromLatin1(bytes.toHex(' '));
 }
 
 } // namespace
@@ -25,6 +26,8 @@ QString message(const QByteArray &bytes)
 class ReceivingTest : public QObject
 {
     Q_OBJECT
+    using WholeTable = Table<QByteArray, QString, QString>;
+
 private slots:
     void onlySomeCodesAreHandedOn()
     {
@@ -40,38 +43,30 @@ private slots:
 
     void wholeMessages_data()
     {
-        QTest::addColumn<QByteArray>("report");
-        QTest::addColumn<QString>("event");
-        QTest::addColumn<QString>("line"); // the last one
-        const auto row = [](const char *name, const QByteArray &bytes, const char *event,
-                            const char *line = "") {
-            QTest::newRow(name) << bytes << QString::fromLatin1(event) << QString::fromLatin1(line);
-        };
+        const WholeTable row; // a report, what comes of it, and the last line of the log if it matters
         row("key press", report(0, hex("01 04 00 00 00 01 02 0f 08")), "key 1/2/15",
             "1 receiveCommand Layoutid:1 Pageid:2 Keyid:15,nAttrbuteid[8]");
-        row("key press with the least length", report(0, hex("01 03 00 00 00 01 02 03")), "key 1/2/3");
-        row("key press that says more than it holds", report(0, hex("01 ff ff ff ff 01 02 03")), "key 1/2/3");
+        row("key press with the least length", report(0, hex("01 03 00 00 00 01 02 03")), "key 1/2/3", {});
+        row("key press that says more than it holds", report(0, hex("01 ff ff ff ff 01 02 03")), "key 1/2/3",
+            {});
         row("action list is handed on", report(0, hex("01 09 00 00 00 01 02 03 0f 03 00 05 00 00")),
-            "message 01 09 00 00 00 01 02 03 0f 03 00 05 00 00");
+            "message 01 09 00 00 00 01 02 03 0f 03 00 05 00 00", {});
         row("length field 2", report(0, hex("01 02 00 00 00 01 02 03 04")), "",
             "3 key attribute data length (2) error");
         row("less arrived than announced", report(0, hex("01 04 00 00 00 01 02")), "",
             "3 key attribute data length (2) error");
         row("no length field", report(0, hex("01 04")), "", "3 key attribute data length (0) error");
-        row("no payload", report(0, {}), "");
-        row("flag above 2 is ignored", report(3, hex("03 01 00 00 00 41")), "");
-        row("code alone", report(0, hex("03")), "message 03");
+        row("no payload", report(0, {}), "", {});
+        row("flag above 2 is ignored", report(3, hex("03 01 00 00 00 41")), "", {});
+        row("code alone", report(0, hex("03")), "message 03", {});
         QByteArray overlong = report(0, hex("03") + QByteArray(57, '\0'));
         overlong[5] = 1;
-        QTest::newRow("payload length above 58 counts as 58")
-            << overlong << message(hex("03") + QByteArray(57, '\0')) << QString();
+        row("payload length above 58 counts as 58", overlong, message(hex("03") + QByteArray(57, '\0')), {});
     }
 
     void wholeMessages()
     {
-        QFETCH(QByteArray, report);
-        QFETCH(QString, event);
-        QFETCH(QString, line);
+        const auto [report, event, line] = WholeTable::current();
         ProtocolFixture fixture;
         fakeHid().send(report);
         fixture.protocol.poll();
@@ -92,9 +87,8 @@ private slots:
         fakeHid().send(report(2, hex("05"))); // a message of one last block
         fixture.protocol.poll();
         const QByteArray whole = first + QByteArray(58, 'b') + QByteArray(3, 'c');
-        QCOMPARE(fixture.events,
-                 QStringList({QStringLiteral("reassembly"), QStringLiteral("key 1/2/3"), message(whole),
-                              QStringLiteral("reassembly"), message(hex("05"))}));
+        QCOMPARE(fixture.events, QStringList({"reassembly"_s, "key 1/2/3"_s, message(whole), "reassembly"_s,
+                                              message(hex("05"))}));
         QCOMPARE(fixture.linesWith("1 -------read ------------------mRecvProtoBufferLen=[119]").size(), 1);
     }
 
@@ -188,8 +182,7 @@ private slots:
         QCOMPARE(fixture.protocol.waitForReply(FunctionCode::UpgradeChannel, Subcode::UpgradeResponse, 1000,
                                                reply),
                  0);
-        QCOMPARE(fixture.log.lines().count(QStringLiteral("2 recv function code:0x06 subcode:0x02 timeout")),
-                 3);
+        QCOMPARE(fixture.log.lines().count("2 recv function code:0x06 subcode:0x02 timeout"_s), 3);
     }
 
     void waitEndsWithAnErrorAndWithTheThread()

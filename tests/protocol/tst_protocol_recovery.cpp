@@ -1,12 +1,12 @@
 // A panel that goes and comes back.
+#include "support/table.h"
 #include "threadfixture.h"
-
-#include <QElapsedTimer>
-#include <QtTest>
 
 class RecoveryTest : public QObject
 {
     Q_OBJECT
+    using OutcomesTable = Table<bool, int, quint32, int>;
+
 private slots:
     /// The first opening is no return: only the second one asks for the state, with message 04.
     void unpluggedAndPluggedInAgain()
@@ -55,35 +55,28 @@ private slots:
 
     void outcomes_data()
     {
-        QTest::addColumn<bool>("present");
-        QTest::addColumn<int>("failAfter"); // writes
-        QTest::addColumn<quint32>("attribute");
-        QTest::addColumn<int>("outcome");
+        // failAfter: writes
+        const OutcomesTable row;
         using vorlinmodel::RequestOutcome;
-        QTest::newRow("sent") << true << -1 << 6U << int(RequestOutcome::Sent);
-        QTest::newRow("no panel") << false << -1 << 6U << int(RequestOutcome::NoPanel);
-        QTest::newRow("a report that fails") << true << 0 << 6U << int(RequestOutcome::Failed);
+        row("sent", true, -1, 6U, int(RequestOutcome::Sent));
+        row("no panel", false, -1, 6U, int(RequestOutcome::NoPanel));
+        row("a report that fails", true, 0, 6U, int(RequestOutcome::Failed));
         // The transfer counts as a success then, but the panel does not have all of it.
-        QTest::newRow("the last block of a picture fails")
-            << true << 1 << 6000U << int(RequestOutcome::Failed);
-        QTest::newRow("a picture that cannot be read") << true << -1 << 9U << int(RequestOutcome::Unreadable);
-        QTest::newRow("a key without a record: nothing to send")
-            << true << -1 << 1000U << int(RequestOutcome::Sent);
+        row("the last block of a picture fails", true, 1, 6000U, int(RequestOutcome::Failed));
+        row("a picture that cannot be read", true, -1, 9U, int(RequestOutcome::Unreadable));
+        row("a key without a record: nothing to send", true, -1, 1000U, int(RequestOutcome::Sent));
     }
 
     void outcomes()
     {
-        QFETCH(bool, present);
-        QFETCH(int, failAfter);
-        QFETCH(quint32, attribute);
-        QFETCH(int, outcome);
+        const auto [present, failAfter, attribute, outcome] = OutcomesTable::current();
         ThreadFixture fixture;
         const vorlinmodel::key_id_t key{1, 1, 1};
         if (attribute != 1000)
             fixture.store.createKeyAttribute(key, 5);
         if (attribute == 6000) // two blocks: the second one fails
             fixture.store.setTitle(key, QString(60, QLatin1Char('x')));
-        fixture.store.setCustomImage(key, QStringLiteral("missing.png"));
+        fixture.store.setCustomImage(key, "missing.png"_s);
         std::atomic<int> reported = -1;
         QObject::connect(
             &fixture.thread, &vorlinmodel::IProtocolThread::sigRequestDone, &fixture.thread,
@@ -150,13 +143,13 @@ private slots:
     void linesOfAReturnedPanelAreWrittenAtOnce()
     {
         ThreadFixture fixture;
-        writeFile(QStringLiteral("firmware.bin"), {});
+        writeFile("firmware.bin"_s, {});
         fakeHid().setPresent(false);
         fixture.thread.start();
-        fixture.postFile(MD_FUNCTION_CODE_UPGRADE, QStringLiteral("firmware.bin"));
+        fixture.postFile(MD_FUNCTION_CODE_UPGRADE, "firmware.bin"_s);
         QTRY_COMPARE(fixture.events("available"), texts({"available -1"}));
         fakeHid().setPresent(true);
-        fixture.postFile(MD_FUNCTION_CODE_UPGRADE, QStringLiteral("firmware.bin"));
+        fixture.postFile(MD_FUNCTION_CODE_UPGRADE, "firmware.bin"_s);
         QTRY_COMPARE(fixture.linesWith("send request  ok").size(), 1); // the panel never answers
         QVERIFY(fixture.thread.isUpgrading());
     }

@@ -1,7 +1,5 @@
 #include "protocolfixture.h"
-
-#include <QElapsedTimer>
-#include <QtTest>
+#include "support/table.h"
 
 using vorlindesk::MDProtocol;
 using enum FunctionCode;
@@ -16,7 +14,7 @@ QString blocksFrom(int first)
 {
     QStringList blocks;
     for (const QByteArray &report : fakeHid().written().mid(first))
-        blocks << QStringLiteral("%1:%2").arg(int{report.at(2)}).arg(int{report.at(5)});
+        blocks << "%1:%2"_s.arg(int{report.at(2)}).arg(int{report.at(5)});
     return blocks.join(QLatin1Char(' '));
 }
 
@@ -25,6 +23,9 @@ QString blocksFrom(int first)
 class SendingTest : public QObject
 {
     Q_OBJECT
+    using BlocksTable = Table<int, QString, QString>;
+    using FailedBlockTable = Table<int, bool>;
+
 private slots:
     void singleReport()
     {
@@ -34,8 +35,7 @@ private slots:
         QCOMPARE(fixture.protocol.buildKeyAddressed(0x101, 0x202, 0xFFFF0F, 8, hex("63")), 10);
         QVERIFY(fixture.protocol.sendSingle());
         QCOMPARE(fakeHid().written(), QList<QByteArray>{report.leftJustified(64, '\0')});
-        QVERIFY(fixture.log.lines().contains(
-            QStringLiteral("1 03 02 00 02 00 0a 00 01 05 00 00 00 01 02 0f 08 63 ")));
+        QVERIFY(fixture.log.lines().contains("1 03 02 00 02 00 0a 00 01 05 00 00 00 01 02 0f 08 63 "_s));
         QCOMPARE(fixture.lastLines(2),
                  texts({"1 HIDTransfer::Send hid_write index[0] / ret[64]- bytes ok", "1 send request  ok"}));
         fakeHid().failWriteAfter(0);
@@ -45,12 +45,8 @@ private slots:
 
     void blocks_data()
     {
-        QTest::addColumn<int>("size"); // of the whole message
-        QTest::addColumn<QString>("blocks");
-        QTest::addColumn<QString>("firmwareBlocks");
-        const auto row = [](const char *name, int size, const char *blocks, const char *firmware) {
-            QTest::newRow(name) << size << QString::fromLatin1(blocks) << QString::fromLatin1(firmware);
-        };
+        // size: of the whole message
+        const BlocksTable row;
         row("56 bytes: whole", 56, "0:56", "2:56");
         row("57 bytes: flagged last, not whole", 57, "2:57", "2:57");
         row("58 bytes", 58, "1:57 2:1", "1:57 2:1");
@@ -60,9 +56,7 @@ private slots:
 
     void blocks()
     {
-        QFETCH(int, size);
-        QFETCH(QString, blocks);
-        QFETCH(QString, firmwareBlocks);
+        const auto [size, blocks, firmwareBlocks] = BlocksTable::current();
         ProtocolFixture fixture;
         QByteArray body;
         for (int i = 0; i < size - 5; ++i)
@@ -74,7 +68,7 @@ private slots:
         for (const QByteArray &report : fakeHid().written())
             message += report.mid(7, report.at(5));
         QCOMPARE(message.mid(5), body);
-        QVERIFY(fixture.log.lines().contains(QStringLiteral("1 ----nProtoLen=[%1]").arg(size)));
+        QVERIFY(fixture.log.lines().contains("1 ----nProtoLen=[%1]"_s.arg(size)));
         QCOMPARE(fixture.lastLines(1), texts({"1 transfer Test success"}));
         const int before = fakeHid().written().size();
         QVERIFY(fixture.protocol.sendFirmware({}));
@@ -83,17 +77,15 @@ private slots:
 
     void failedBlockEndsTheTransfer_data()
     {
-        QTest::addColumn<int>("written");
-        QTest::addColumn<bool>("success");
-        QTest::newRow("first") << 0 << false;
-        QTest::newRow("middle") << 1 << false;
-        QTest::newRow("last: counts as success, wanted") << 2 << true;
+        const FailedBlockTable row;
+        row("first", 0, false);
+        row("middle", 1, false);
+        row("last: counts as success, wanted", 2, true);
     }
 
     void failedBlockEndsTheTransfer()
     {
-        QFETCH(int, written);
-        QFETCH(bool, success);
+        const auto [written, success] = FailedBlockTable::current();
         ProtocolFixture fixture;
         fakeHid().failWriteAfter(written);
         fixture.protocol.buildPlain(MD_FUNCTION_CODE_CONFIGFILE, QByteArray(150, 'x')); // 3 blocks
@@ -102,7 +94,7 @@ private slots:
         QCOMPARE(fixture.linesWith(" block data").size(), written + 2); // one line per block, then the error
         QCOMPARE(
             fixture.lastLines(2),
-            QStringList({QStringLiteral("3 transfer %1 block data error").arg(written + 1),
+            QStringList({"3 transfer %1 block data error"_s.arg(written + 1),
                          texts({success ? "1 transfer Test success" : "3 transfer Test error"}).first()}));
     }
 
@@ -130,7 +122,7 @@ private slots:
         fixture.protocol.setBlockDelay(7);
         QVERIFY(fixture.protocol.sendInBlocks(Unpaced));
         QVERIFY(fixture.protocol.sendFirmware({}));
-        QCOMPARE(fixture.events.count(QStringLiteral("pause 7")), 20);
+        QCOMPARE(fixture.events.count("pause 7"_s), 20);
     }
 
     void endOfTheThreadEndsATransfer()

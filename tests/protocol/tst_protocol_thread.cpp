@@ -1,12 +1,13 @@
 #include "platform/desktop.h"
+#include "support/table.h"
 #include "threadfixture.h"
-
-#include <QElapsedTimer>
-#include <QtTest>
 
 class ThreadTest : public QObject
 {
     Q_OBJECT
+    using PressTable = Table<int, QString>;
+    using StopTable = Table<bool, bool, quint32>;
+
 private slots:
     void requestsAreTakenInOrderOnePerPass()
     {
@@ -35,57 +36,50 @@ private slots:
 
     void pressGivesTheCommand_data()
     {
-        QTest::addColumn<int>("fid");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("home page") << 1 << QString::fromLatin1(vorlindesk::DefaultHomePage);
-        QTest::newRow("file") << 2 << QStringLiteral("some text");
-        QTest::newRow("multiple actions: no text") << 4 << QString();
-        QTest::newRow("text output") << 15 << QStringLiteral("some text");
-        QTest::newRow("unknown function: no text") << 77 << QString();
+        const PressTable row;
+        row("home page", 1, QString::fromLatin1(vorlindesk::DefaultHomePage));
+        row("file", 2, "some text");
+        row("multiple actions: no text", 4, {});
+        row("text output", 15, "some text");
+        row("unknown function: no text", 77, {});
     }
 
     void pressGivesTheCommand()
     {
-        QFETCH(int, fid);
-        QFETCH(QString, text);
+        const auto [fid, text] = PressTable::current();
         ThreadFixture fixture;
         const vorlinmodel::key_id_t key{1, 2, 3};
         fixture.store.createKeyAttribute(key, fid);
-        fixture.store.setUrlOrPath(key, QStringLiteral("some text"));
+        fixture.store.setUrlOrPath(key, "some text"_s);
         fixture.thread.start();
         fakeHid().send(wholeReport("01 04 00 00 00 01 02 04 08"));       // a key without a record: nothing
         fakeHid().send(wholeReport("01 06 00 00 00 01 02 03 0f 00 00")); // an action list: no press
         fakeHid().send(wholeReport("01 04 00 00 00 01 02 03 08"));
-        QTRY_COMPARE(fixture.events(),
-                     QStringList({QStringLiteral("received 01 06 00 00 00 01 02 03 0f 00 00"),
-                                  QStringLiteral("exec %1 %2").arg(fid).arg(text)}));
+        QTRY_COMPARE(fixture.events(), QStringList({"received 01 06 00 00 00 01 02 03 0f 00 00"_s,
+                                                    "exec %1 %2"_s.arg(fid).arg(text)}));
         QCOMPARE(fixture.linesWith("xecCommand"),
-                 QStringList({QStringLiteral("1 execCommand Layoutid:1 Pageid:2 Keyid:3 fid:%1 ").arg(fid),
-                              QStringLiteral("1 -sigDealExecCommand-strUrlOrPath=[%1] ").arg(text)}));
+                 QStringList({"1 execCommand Layoutid:1 Pageid:2 Keyid:3 fid:%1 "_s.arg(fid),
+                              "1 -sigDealExecCommand-strUrlOrPath=[%1] "_s.arg(text)}));
     }
 
     void stopEndsEveryWait_data()
     {
-        QTest::addColumn<bool>("present");
-        QTest::addColumn<bool>("upgrading");
-        QTest::addColumn<quint32>("delay");
-        QTest::newRow("idle") << true << false << 0U;
-        QTest::newRow("without a panel") << false << false << 0U;
-        QTest::newRow("waiting for a silent panel") << true << true << 0U;
-        QTest::newRow("between two blocks") << true << false << 100000U;
+        const StopTable row;
+        row("idle", true, false, 0U);
+        row("without a panel", false, false, 0U);
+        row("waiting for a silent panel", true, true, 0U);
+        row("between two blocks", true, false, 100000U);
     }
 
     void stopEndsEveryWait()
     {
-        QFETCH(bool, present);
-        QFETCH(bool, upgrading);
-        QFETCH(quint32, delay);
+        const auto [present, upgrading, delay] = StopTable::current();
         ThreadFixture fixture;
         fakeHid().setPresent(present);
         fixture.thread.start();
         if (upgrading) {
-            writeFile(QStringLiteral("firmware.bin"), {});
-            fixture.postFile(MD_FUNCTION_CODE_UPGRADE, QStringLiteral("firmware.bin"));
+            writeFile("firmware.bin"_s, {});
+            fixture.postFile(MD_FUNCTION_CODE_UPGRADE, "firmware.bin"_s);
             QTRY_COMPARE(fixture.events("available"), texts({"available 1"}));
             QVERIFY(fixture.thread.isUpgrading());
         }
@@ -107,7 +101,7 @@ private slots:
     {
         ThreadFixture fixture;
         fakeHid().setOpenable({FakeHid::DefaultPath, "mine"});
-        fixture.postFile(SetDevicePath, {}, QStringLiteral("mine"));
+        fixture.postFile(SetDevicePath, {}, "mine"_s);
         fixture.postFile(SetDevicePath, {}, {});
         fixture.thread.start();
         QTRY_COMPARE(fakeHid().opened(), QList<QByteArray>{"mine"});

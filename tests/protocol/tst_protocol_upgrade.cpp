@@ -1,6 +1,5 @@
+#include "support/table.h"
 #include "threadfixture.h"
-
-#include <QtTest>
 
 namespace {
 
@@ -24,8 +23,8 @@ void answerUpgrade(int reports, const QByteArray &crc, int brokenAfter = -1)
 /// Asks for an upgrade with these bytes.
 void upgrade(ThreadFixture &fixture, const QByteArray &firmware)
 {
-    writeFile(QStringLiteral("fw.bin"), firmware);
-    fixture.postFile(MD_FUNCTION_CODE_UPGRADE, QStringLiteral("fw.bin"));
+    writeFile("fw.bin"_s, firmware);
+    fixture.postFile(MD_FUNCTION_CODE_UPGRADE, "fw.bin"_s);
 }
 
 const QStringList LinesToTheCrc =
@@ -42,27 +41,24 @@ const QStringList LinesToTheCrc =
 class UpgradeTest : public QObject
 {
     Q_OBJECT
+    using BrokenTable = Table<int, bool, QStringList>;
+    using UpgradeTable = Table<QByteArray, QByteArray, QStringList>;
+
 private slots:
     void wholeUpgrade_data()
     {
-        QTest::addColumn<QByteArray>("crc");
-        QTest::addColumn<QByteArray>("status");
-        QTest::addColumn<QStringList>("crcLines");
-        QTest::newRow("accepted") << QByteArray("b1 29") << hex("06 02 00 00 00 05 00")
-                                  << texts({"log receive crc16:0x29b1",
-                                            "log file crc:0x29b1  receive crc:0x29b1",
-                                            "log check crc success"});
-        QTest::newRow("mismatch: delivered all the same")
-            << QByteArray("b2 29") << hex("06 02 00 00 00 05 01")
-            << texts({"log receive crc16:0x29b2", "log file crc:0x29b1  receive crc:0x29b2",
-                      "log check crc fail"});
+        const UpgradeTable row;
+        row("accepted", "b1 29", hex("06 02 00 00 00 05 00"),
+            texts({"log receive crc16:0x29b1", "log file crc:0x29b1  receive crc:0x29b1",
+                   "log check crc success"}));
+        row("mismatch: delivered all the same", "b2 29", hex("06 02 00 00 00 05 01"),
+            texts({"log receive crc16:0x29b2", "log file crc:0x29b1  receive crc:0x29b2",
+                   "log check crc fail"}));
     }
 
     void wholeUpgrade()
     {
-        QFETCH(QByteArray, crc);
-        QFETCH(QByteArray, status);
-        QFETCH(QStringList, crcLines);
+        const auto [crc, status, crcLines] = UpgradeTable::current();
         ThreadFixture fixture;
         answerUpgrade(3, crc);
         upgrade(fixture, "123456789");
@@ -81,7 +77,7 @@ private slots:
         for (QByteArray &report : reports)
             report = report.leftJustified(64, '\0');
         QCOMPARE(fakeHid().written(), reports);
-        QVERIFY(fixture.log.lines().contains(QStringLiteral("1 transfer upgrade file success")));
+        QVERIFY(fixture.log.lines().contains("1 transfer upgrade file success"_s));
     }
 
     void emptyFile()
@@ -91,7 +87,7 @@ private slots:
         upgrade(fixture, {});
         fixture.thread.start();
         QTRY_COMPARE(fixture.events("finished"), texts({"finished 1"}));
-        QVERIFY(fixture.events().contains(QStringLiteral("log filesize: 0 filecrc16:0xffff")));
+        QVERIFY(fixture.events().contains("log filesize: 0 filecrc16:0xffff"_s));
         QCOMPARE(fakeHid().written().at(2),
                  hex("03 02 02 02 00 06 00 06 01 00 00 00 03").leftJustified(64, '\0'));
     }
@@ -99,10 +95,10 @@ private slots:
     void fileThatCannotBeSent()
     {
         ThreadFixture fixture;
-        fixture.postFile(MD_FUNCTION_CODE_UPGRADE, QStringLiteral("none"));
-        writeFile(QStringLiteral("long"), {});
-        QVERIFY(QFile::resize(QStringLiteral("long"), 10 * 1024 * 1024 - 5)); // refused before the erasing
-        fixture.postFile(MD_FUNCTION_CODE_UPGRADE, QStringLiteral("long"));
+        fixture.postFile(MD_FUNCTION_CODE_UPGRADE, "none"_s);
+        writeFile("long"_s, {});
+        QVERIFY(QFile::resize("long"_s, 10 * 1024 * 1024 - 5)); // refused before the erasing
+        fixture.postFile(MD_FUNCTION_CODE_UPGRADE, "long"_s);
         fixture.thread.start();
         QTRY_COMPARE(fixture.events(),
                      texts({"log upgrade file:none  timeout:0 ms", "log open none error",
@@ -112,43 +108,36 @@ private slots:
         QVERIFY(fixture.messages().isEmpty());
     }
 
-    /// The link breaks at one of the steps. @c written: reports that the panel takes before.
+    /// The link breaks at one of the steps.
     void brokenLink_data()
     {
-        QTest::addColumn<int>("written");
-        QTest::addColumn<bool>("whileReading");
-        QTest::addColumn<QStringList>("last");
-        const auto row = [](const char *name, int written, bool reading,
-                            std::initializer_list<const char *> last) {
-            QTest::newRow(name) << written << reading << texts(last);
-        };
+        const BrokenTable row; // reports that the panel takes before; whether the break is seen when reading
         row("request cannot be sent", 0, false,
-            {"log send request upgrade error", "available -1", "log Failed to request upgrade"});
-        row("no response", 1, true, {"log receive upgrade response error", "log Failed to request upgrade"});
+            texts({"log send request upgrade error", "available -1", "log Failed to request upgrade"}));
+        row("no response", 1, true,
+            texts({"log receive upgrade response error", "log Failed to request upgrade"}));
         row("erase cannot be sent", 1, false,
-            {"log request upgrade success", "log send ereasue request error"});
+            texts({"log request upgrade success", "log send ereasue request error"}));
         row("no erase response", 2, true,
-            {"log send ereasue request ok", "log receive ereasue response error"});
+            texts({"log send ereasue request ok", "log receive ereasue response error"}));
         row("first block", 2, false,
-            {"log transfer 1 block data error\n", "log transfer upgrade file error",
-             "log Failed to transfer upgrade data"});
+            texts({"log transfer 1 block data error\n", "log transfer upgrade file error",
+                   "log Failed to transfer upgrade data"}));
         row("middle block", 3, false,
-            {"log transfer 1 block data ok", "log transfer 2 block data error\n",
-             "log transfer upgrade file error", "log Failed to transfer upgrade data"});
+            texts({"log transfer 1 block data ok", "log transfer 2 block data error\n",
+                   "log transfer upgrade file error", "log Failed to transfer upgrade data"}));
         row("last block: counts as success, wanted", 4, false,
-            {"log transfer 2 block data ok", "log transfer 3 block data error\n",
-             "log transfer upgrade data success", "log begin receive crc16"});
+            texts({"log transfer 2 block data ok", "log transfer 3 block data error\n",
+                   "log transfer upgrade data success", "log begin receive crc16"}));
         row("no checksum", 5, true,
-            {"log begin receive crc16", "log receive crc16 error", "log Failed to receive crc"});
+            texts({"log begin receive crc16", "log receive crc16 error", "log Failed to receive crc"}));
         row("status cannot be sent", 5, false,
-            {"log check crc success", "log send upgrade status error", "finished 0"});
+            texts({"log check crc success", "log send upgrade status error", "finished 0"}));
     }
 
     void brokenLink()
     {
-        QFETCH(int, written);
-        QFETCH(bool, whileReading);
-        QFETCH(QStringList, last);
+        const auto [written, whileReading, last] = BrokenTable::current();
         ThreadFixture fixture;
         fakeHid().failWriteAfter(whileReading ? -1 : written);
         answerUpgrade(5, "a2 6d", whileReading ? written : -1);

@@ -1,22 +1,19 @@
 #include "support/fakehid.h"
+#include "support/table.h"
 #include "transport/hiddevicelist.h"
-
-#include <QtTest>
 
 using vorlindesk::HidDeviceEntry;
 
 class DeviceListTest : public QObject
 {
     Q_OBJECT
+    using PicksThePanelTable = Table<QString, bool, QString>;
+
 private slots:
     void picksThePanel_data()
     {
-        QTest::addColumn<QString>("listed"); // "path usage-page|...", pages in hex
-        QTest::addColumn<bool>("deviceNodes");
-        QTest::addColumn<QString>("picked");
-        const auto row = [](const char *name, const char *listed, bool deviceNodes, const char *picked) {
-            QTest::newRow(name) << QString::fromLatin1(listed) << deviceNodes << QString::fromLatin1(picked);
-        };
+        // listed: "path usage-page|...", pages in hex
+        const PicksThePanelTable row;
         row("nothing listed", "", true, "");
         row("two panels: the first", "x#Col01#1|x#Col02#1|x#Col02#2", false, "x#Col02#1");
         row("lower case does not count", "\\\\?\\hid#a&col02 ff00", true, "");
@@ -33,9 +30,7 @@ private slots:
 
     void picksThePanel()
     {
-        QFETCH(QString, listed);
-        QFETCH(bool, deviceNodes);
-        QFETCH(QString, picked);
+        const auto [listed, deviceNodes, picked] = PicksThePanelTable::current();
         QVector<HidDeviceEntry> entries;
         for (const QString &text : listed.split(QLatin1Char('|'), Qt::SkipEmptyParts)) {
             HidDeviceEntry entry;
@@ -55,7 +50,7 @@ private slots:
         const QVector<HidDeviceEntry> entries = vorlindesk::listPanelCollections();
         QCOMPARE(entries.size(), 2);
         QCOMPARE(entries.at(0).product, QString());
-        QCOMPARE(entries.at(1).product, QStringLiteral("面板"));
+        QCOMPARE(entries.at(1).product, "面板"_s);
         QCOMPARE(entries.at(1).usagePage, 0xFF00U);
         QCOMPARE(fakeHid().openListings(), 0);
     }

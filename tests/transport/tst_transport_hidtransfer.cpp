@@ -1,16 +1,17 @@
 #include "base/logcapture.h"
 #include "support/fakehid.h"
+#include "support/table.h"
 #include "support/texts.h"
 #include "transport/hidtransfer.h"
 #include "wire/bytesofhex.h"
-
-#include <QtTest>
 
 using vorlindesk::HIDTransfer;
 
 class HidTransferTest : public QObject
 {
     Q_OBJECT
+    using FailedWriteTable = Table<int, bool, QString>;
+
 private slots:
     void init()
     {
@@ -44,13 +45,12 @@ private slots:
             {{"x&Col01", 1}, {"x&Col02", 0xFF00, L"Tästen", L"Wir", L"7"}, {"x&Col02b", 0xFF00}});
         HIDTransfer transfer;
         const QStringList lines = mpLog->lines();
-        QCOMPARE(lines.filter(QStringLiteral("path:")), texts({"1 path:x&Col01", "1 path:x&Col02"}));
-        QCOMPARE(lines.mid(lines.indexOf(QStringLiteral("1 serial_number:7")), 4),
+        QCOMPARE(lines.filter("path:"_s), texts({"1 path:x&Col01", "1 path:x&Col02"}));
+        QCOMPARE(lines.mid(lines.indexOf("1 serial_number:7"_s), 4),
                  texts({"1 serial_number:7", "1 release_number:256", "1 manufacturer_string:Wir",
                         "1 product_string:Tästen"}));
-        QCOMPARE(
-            lines.last(),
-            QStringLiteral("1 -----scanDevicePath----------------------return-----strDevicePath=[x&Col02]"));
+        QCOMPARE(lines.last(),
+                 "1 -----scanDevicePath----------------------return-----strDevicePath=[x&Col02]"_s);
     }
 
     void panelThatReturnsElsewhereIsFound()
@@ -67,7 +67,7 @@ private slots:
     void pathSetByHandIsTheOnlyOneTried()
     {
         HIDTransfer transfer;
-        transfer.setDevicePath(QStringLiteral("gone"));
+        transfer.setDevicePath("gone"_s);
         transfer.setDevicePath(QString());
         QVERIFY(!transfer.open());
         QCOMPARE(fakeHid().opened(), QList<QByteArray>{"gone"});
@@ -80,9 +80,9 @@ private slots:
         fakeHid().setOpenable({FakeHid::DefaultPath, "mine"});
         HIDTransfer transfer;
         QVERIFY(transfer.open());
-        transfer.setDevicePath(QStringLiteral("mine"));
+        transfer.setDevicePath("mine"_s);
         QVERIFY(transfer.open());
-        transfer.setDevicePath(QStringLiteral("mine"));
+        transfer.setDevicePath("mine"_s);
         QVERIFY(transfer.isOpen());
         QCOMPARE(fakeHid().opened(), QList<QByteArray>({FakeHid::DefaultPath, "mine"}));
     }
@@ -99,25 +99,21 @@ private slots:
 
     void failedWriteClosesTheDevice_data()
     {
-        QTest::addColumn<int>("result");
-        QTest::addColumn<bool>("hasText");
-        QTest::addColumn<QString>("error");
-        QTest::newRow("error") << -1 << true << QStringLiteral("error fäke");
-        QTest::newRow("error without a text") << -1 << false << QStringLiteral("error ");
-        QTest::newRow("one byte short") << 63 << true << QStringLiteral("ret(63) is small than 64");
+        const FailedWriteTable row;
+        row("error", -1, true, "error fäke");
+        row("error without a text", -1, false, "error ");
+        row("one byte short", 63, true, "ret(63) is small than 64");
     }
 
     void failedWriteClosesTheDevice()
     {
-        QFETCH(int, result);
-        QFETCH(bool, hasText);
-        QFETCH(QString, error);
+        const auto [result, hasText, error] = FailedWriteTable::current();
         HIDTransfer transfer;
         fakeHid().setWriteResult(result);
         fakeHid().setErrorText(hasText ? std::make_optional(L"fäke") : std::nullopt);
         const quint8 byte = 1;
         QVERIFY(!transfer.Send(0, &byte, 1));
-        QCOMPARE(mpLog->lines().last(), QStringLiteral("3 HIDTransfer::Send hid_write ") + error);
+        QCOMPARE(mpLog->lines().last(), "3 HIDTransfer::Send hid_write "_s + error);
         QCOMPARE(fakeHid().openHandles(), 0);
         QCOMPARE(transfer.openCount(), 2);
         fakeHid().setWriteResult(std::nullopt);
@@ -139,7 +135,7 @@ private slots:
         QVERIFY(!transfer.Send(0, report, 1));
         QCOMPARE(states.size(), 2);
         QCOMPARE(states.last().first().toBool(), false);
-        QCOMPARE(mpLog->lines().count(QStringLiteral("3 -Send-connectState false")), 1);
+        QCOMPARE(mpLog->lines().count("3 -Send-connectState false"_s), 1);
     }
 
     void recvTellsReportsTimeoutsAndErrorsApart()
@@ -186,7 +182,7 @@ private slots:
         QCOMPARE(transfer.Recv(report, 20), -1);
         mNow = 1000;
         QCOMPARE(transfer.Recv(report, 20), 0);
-        QCOMPARE(mpLog->lines().filter(QStringLiteral("] error")).size(), 1);
+        QCOMPARE(mpLog->lines().filter("] error"_s).size(), 1);
         QCOMPARE(lastLines(1), texts({"1 hid_open \\\\?\\hid#fake&Col02 ok"}));
         fakeHid().setPresent(false);
         QCOMPARE(transfer.Recv(report, 20), -1);

@@ -1,6 +1,8 @@
 /// Literal reports for the tests of the panel.
 #pragma once
 
+#include "support/texts.h"
+
 #include <QByteArray>
 #include <QList>
 

@@ -1,6 +1,8 @@
 /// A virtual panel in a process of its own, driven by its line protocol.
 #pragma once
 
+#include "support/texts.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QProcess>
@@ -14,7 +16,7 @@ public:
     bool start(const char *arguments = "")
     {
         const QDir folder(QCoreApplication::applicationDirPath());
-        const QString all = QLatin1String("--headless --port 0 --paths linux ") + QLatin1String(arguments);
+        const QString all = "--headless --port 0 --paths linux "_s + QLatin1String(arguments);
         mProcess.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         mProcess.start(folder.filePath(QStringLiteral(PANEL_PROGRAM)),
                        all.split(QLatin1Char(' '), Qt::SkipEmptyParts));

@@ -5,20 +5,15 @@
 #include "panel_app/linecommands.h"
 #include "panel_app/panelarguments.h"
 #include "panel_link/panelserver.h"
-#include "wire/actionlist.h"
-#include "wire/textcodec.h"
+#include "support/texts.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QSet>
 #include <QtTest>
 
 class TestPanelDemo : public QObject
 {
     Q_OBJECT
 
-    const PanelState mDemo = demoState(QStringLiteral("/tmp/read me.txt"));
+    const PanelState mDemo = demoState("/tmp/read me.txt"_s);
 
 private slots:
     void showsEveryFunction()
@@ -30,17 +25,6 @@ private slots:
         }
         for (int functionId = 1; functionId <= 19; ++functionId)
             QVERIFY2(functions.contains(functionId), qPrintable(QString::number(functionId)));
-    }
-
-    void contentsDecode()
-    {
-        const KeyRecord text = mDemo.keys.value({1, 1, 5}).record;
-        QCOMPARE(TextCodec::fromOutput(text.content), QStringLiteral("Hello, 你好!"));
-        QCOMPARE(TextCodec::fromGbk(text.title), QStringLiteral("问候"));
-        const auto steps = ActionList::decode(mDemo.keys.value({1, 1, 4}).actions);
-        QCOMPARE(steps.size(), 5);
-        QCOMPARE(int(steps.at(1).delay), 500);
-        QVERIFY(videoFrames(mDemo.keys.value({1, 1, 12}).video).size() > 1);
     }
 
     void commands_data()
@@ -69,16 +53,15 @@ private slots:
     {
         PanelServer server({});
         LineCommands commands(server, {});
-        QCOMPARE(commands.execute(QStringLiteral("demo")), QStringLiteral("ok"));
-        const QJsonObject key =
-            QJsonDocument::fromJson(commands.execute(QStringLiteral("key 1 1 15")).toUtf8()).object();
-        QCOMPARE(key.value(QStringLiteral("fid")).toInt(), 15);
-        QCOMPARE(key.value(QStringLiteral("content")).toString(), QStringLiteral("Kind regards\n此致敬礼"));
-        QCOMPARE(key.value(QStringLiteral("colour")).toArray(), (QJsonArray{120, 200, 255}));
-        QVERIFY(commands.execute(QStringLiteral("press 3")).startsWith(QStringLiteral("ok ")));
-        QCOMPARE(commands.execute(QStringLiteral("events")), QStringLiteral("[\"key 1/1/3 pressed\"]"));
+        QCOMPARE(commands.execute("demo"_s), "ok"_s);
+        const QJsonObject key = QJsonDocument::fromJson(commands.execute("key 1 1 15"_s).toUtf8()).object();
+        QCOMPARE(key.value("fid"_s).toInt(), 15);
+        QCOMPARE(key.value("content"_s).toString(), "Kind regards\n此致敬礼"_s);
+        QCOMPARE(key.value("colour"_s).toArray(), (QJsonArray{120, 200, 255}));
+        QVERIFY(commands.execute("press 3"_s).startsWith("ok "_s));
+        QCOMPARE(commands.execute("events"_s), "[\"key 1/1/3 pressed\"]"_s);
         QVERIFY(!commands.quitWanted());
-        commands.execute(QStringLiteral("quit"));
+        commands.execute("quit"_s);
         QVERIFY(commands.quitWanted());
     }
 
@@ -96,7 +79,7 @@ private slots:
     void arguments()
     {
         QFETCH(int, exitCode);
-        QStringList arguments{QStringLiteral("virtual_panel"), QString::fromLatin1(QTest::currentDataTag())};
+        QStringList arguments{"virtual_panel"_s, QString::fromLatin1(QTest::currentDataTag())};
         arguments.removeAll({});
         const PanelArgumentsResult result = parsePanelArguments(arguments);
         QCOMPARE(result.exitCode, exitCode);

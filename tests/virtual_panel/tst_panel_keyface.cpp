@@ -1,8 +1,8 @@
 // The face of a key, as the panel and the editor draw it.
 #include "model/keyface.h"
+#include "support/table.h"
 
 #include <QPainter>
-#include <QtTest>
 
 using namespace vorlinmodel;
 
@@ -32,6 +32,8 @@ class TestPanelKeyface : public QObject
         return rows;
     }
 
+    using AlignmentTable = Table<int, int, int>;
+
 private slots:
     void pictureFillsTheKey()
     {
@@ -47,31 +49,27 @@ private slots:
 
     void titleStandsWhereItsAlignmentSays_data()
     {
-        QTest::addColumn<int>("alignment");
-        QTest::addColumn<int>("highest");
-        QTest::addColumn<int>("lowest");
-        QTest::newRow("bottom") << int(AlignBottom) << 55 << 83;
-        QTest::newRow("centre") << int(AlignCenter) << 26 << 58;
-        QTest::newRow("top") << int(AlignTop) << 0 << 30;
+        const AlignmentTable row;
+        row("bottom", int(AlignBottom), 55, 83);
+        row("centre", int(AlignCenter), 26, 58);
+        row("top", int(AlignTop), 0, 30);
     }
 
     void titleStandsWhereItsAlignmentSays()
     {
-        QFETCH(int, alignment);
-        QFETCH(int, highest);
-        QFETCH(int, lowest);
+        const auto [alignment, highest, lowest] = AlignmentTable::current();
         KeyFace face;
-        face.title = QStringLiteral("HH");
+        face.title = "HH"_s;
         face.titleAlignment = alignment;
         const auto rows = titleRows(renderKeyFace(face, QSize(90, 84)));
         QVERIFY2(rows.first >= highest && rows.second <= lowest,
-                 qPrintable(QStringLiteral("%1 to %2").arg(rows.first).arg(rows.second)));
+                 qPrintable("%1 to %2"_s.arg(rows.first).arg(rows.second)));
     }
 
     void titleSize()
     {
         KeyFace face;
-        face.title = QStringLiteral("H");
+        face.title = "H"_s;
         const auto normal = titleRows(renderKeyFace(face, QSize(90, 84)));
         face.titleFontSize = 32;
         const auto large = titleRows(renderKeyFace(face, QSize(90, 84)));

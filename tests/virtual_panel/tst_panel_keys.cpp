@@ -1,8 +1,7 @@
 // What a press on a key does.
 #include "panel_model/panelmodel.h"
 #include "panelbytes.h"
-
-#include <QtTest>
+#include "support/table.h"
 
 class TestPanelKeys : public QObject
 {
@@ -12,6 +11,9 @@ class TestPanelKeys : public QObject
     {
         panel.receive(whole("0105000000" + ids + "08" + fid));
     }
+
+    using KeyboardTable = Table<QByteArray, QString>;
+    using ChildPageTable = Table<QByteArray, QByteArray, QPoint>;
 
 private slots:
     void pressIsReported()
@@ -30,46 +32,42 @@ private slots:
 
     void keyboardFunctions_data()
     {
-        QTest::addColumn<QByteArray>("fid");
-        QTest::addColumn<QString>("event");
-        QTest::newRow("volume") << QByteArray("07") << QStringLiteral("to the computer: Volume Down");
-        QTest::newRow("combination") << QByteArray("10") << QStringLiteral("to the computer: Left Ctrl + C");
-        QTest::newRow("the host's business") << QByteArray("03") << QStringLiteral("key 1/1/3 pressed");
+        const KeyboardTable row;
+        row("volume", "07", "to the computer: Volume Down");
+        row("combination", "10", "to the computer: Left Ctrl + C");
+        row("the host's business", "03", "key 1/1/3 pressed");
     }
 
     void keyboardFunctions()
     {
-        QFETCH(QByteArray, fid);
+        const auto [fid, event] = KeyboardTable::current();
         PanelModel panel;
         setFunction(panel, "010103", fid);
         if (fid == "10")
             panel.receive(whole("0108000000 010103 0e e0060000"));
         panel.pressKey(3);
-        QTEST(panel.journal().events().last(), "event");
+        QCOMPARE(panel.journal().events().last(), event);
         QCOMPARE(panel.takeOutgoing().size(), 1);
     }
 
     /// The home layout can lead a child page elsewhere, also to another layout; return leads back.
     void childPageAndBack_data()
     {
-        QTest::addColumn<QByteArray>("home");
-        QTest::addColumn<QByteArray>("back");
-        QTest::addColumn<QPoint>("child"); // layout and page
-        QTest::newRow("by number") << QByteArray("1102000000 0100") << QByteArray("01040f") << QPoint(1, 4);
-        QTest::newRow("by home layout")
-            << QByteArray("1106000000 0101 030209ff") << QByteArray("02090f") << QPoint(2, 9);
+        // child: layout and page
+        const ChildPageTable row;
+        row("by number", "1102000000 0100", "01040f", QPoint(1, 4));
+        row("by home layout", "1106000000 0101 030209ff", "02090f", QPoint(2, 9));
     }
 
     void childPageAndBack()
     {
-        QFETCH(QByteArray, home);
-        QFETCH(QByteArray, back);
+        const auto [home, back, child] = ChildPageTable::current();
         PanelModel panel;
         panel.receive(whole(home));
         setFunction(panel, "010103", "12");
         setFunction(panel, back, "13");
         panel.pressKey(3);
-        QTEST(QPoint(panel.state().layout, panel.state().page), "child");
+        QCOMPARE(QPoint(panel.state().layout, panel.state().page), child);
         panel.pressKey(15);
         QCOMPARE(QPoint(panel.state().layout, panel.state().page), QPoint(1, 1));
     }
@@ -97,7 +95,7 @@ private slots:
         QCOMPARE(sent.size(), 1);
         QCOMPARE(int(sent.first().at(1)), 2);
         QCOMPARE(sent.first().mid(4), report("00000000 1100 010c000000 010103 10 0600 640a00 050000").mid(4));
-        QCOMPARE(panel.journal().events().last(), QStringLiteral("to the computer: Play/Pause"));
+        QCOMPARE(panel.journal().events().last(), "to the computer: Play/Pause"_s);
     }
 };
 

@@ -1,8 +1,7 @@
 // What the panel sends, byte for byte.
 #include "panel_model/panelmodel.h"
 #include "panelbytes.h"
-
-#include <QtTest>
+#include "support/table.h"
 
 class TestPanelReplies : public QObject
 {
@@ -24,14 +23,13 @@ private:
         return all;
     }
 
+    using ReplyTable = Table<QByteArray, QByteArray>;
+    using UpgradeTable = Table<bool, QByteArray, QByteArray>;
+
 private slots:
     void shortReplies_data()
     {
-        QTest::addColumn<QByteArray>("request");
-        QTest::addColumn<QByteArray>("reply");
-        const auto row = [](const char *name, const char *request, const char *reply) {
-            QTest::newRow(name) << QByteArray(request) << report(reply);
-        };
+        const ReplyTable row;
         row("hardware version", "03", "00000000 1100 030c000000 5049432d485720312e322e30");
         row("software version", "04", "00000000 1100 040c000000 5049432d535720332e342e31");
         row("brightness", "1002000000 0100", "00000000 0700 1002000000 0150");
@@ -43,26 +41,15 @@ private slots:
 
     void shortReplies()
     {
-        QFETCH(QByteArray, request);
-        QFETCH(QByteArray, reply);
+        const auto [request, reply] = ReplyTable::current();
         PanelModel panel;
         panel.receive(whole(request));
         const QList<QByteArray> sent = panel.takeOutgoing();
         QCOMPARE(sent.size(), 1);
         // Bytes 0, 2 and 3 are the panel's affair: nobody reads them.
-        QCOMPARE(sent.first().mid(4), reply.mid(4));
+        QCOMPARE(sent.first().mid(4), report(reply.constData()).mid(4));
         QCOMPARE(flags(sent), QByteArray(1, '\0'));
         QVERIFY(panel.takeOutgoing().isEmpty());
-    }
-
-    void settingsAreNotAnswered()
-    {
-        PanelModel panel;
-        for (const char *request :
-             {"1002000000 0032", "0702000000 0102", "1102000000 0100", "0105000000 010103 08 03"})
-            panel.receive(whole(request));
-        QVERIFY(panel.takeOutgoing().isEmpty());
-        QCOMPARE(panel.violations(), QStringList());
     }
 
     /// Two pages: a multi-action key, and one without a picture.
@@ -94,19 +81,15 @@ private slots:
 
     void upgrade_data()
     {
-        QTest::addColumn<bool>("wrongCrc");
-        QTest::addColumn<QByteArray>("status");
-        QTest::addColumn<QByteArray>("firmware");
-        QTest::newRow("taken") << false << QByteArray("00") << QByteArray("123456789");
-        QTest::newRow("dropped by the host") << false << QByteArray("01") << QByteArray();
-        QTest::newRow("wrong checksum") << true << QByteArray("01") << QByteArray();
+        const UpgradeTable row;
+        row("taken", false, "00", "123456789");
+        row("dropped by the host", false, "01", {});
+        row("wrong checksum", true, "01", {});
     }
 
     void upgrade()
     {
-        QFETCH(bool, wrongCrc);
-        QFETCH(QByteArray, status);
-        QFETCH(QByteArray, firmware);
+        const auto [wrongCrc, status, firmware] = UpgradeTable::current();
         PanelModel panel;
         panel.setFaults({.silent = false, .wrongCrc = wrongCrc, .unplugAfter = -1});
         panel.receive(whole("0601000000 01"));

@@ -1,4 +1,4 @@
-// What the panel keeps of correct reports.
+// What the panel keeps of correct reports, beyond what the tests of the program show with it.
 #include "panel_model/panelmodel.h"
 #include "panelbytes.h"
 
@@ -34,45 +34,6 @@ private slots:
         QCOMPARE(panel.violations(), QStringList());
     }
 
-    void attributes()
-    {
-        PanelModel panel;
-        setFunction(panel, "03");
-        for (const char *hex :
-             {"0105000000 010103 01 02", "0105000000 010103 02 01", "0105000000 010103 03 01",
-              "0105000000 010103 07 0c", "0107000000 010103 0c 102030", "0109000000 010103 06 04c4e3bac3",
-              "0109000000 010103 0b 04c4e3bac3"}) // the address becomes UTF-8
-            panel.receive(whole(hex));
-        const KeyRecord expected{.layoutId = 1,
-                                 .pageId = 1,
-                                 .keyId = 3,
-                                 .functionId = 3,
-                                 .imageEffects = 2,
-                                 .displayMode = 1,
-                                 .titleAlignment = 1,
-                                 .titleFontSize = 12,
-                                 .red = 0x10,
-                                 .green = 0x20,
-                                 .blue = 0x30,
-                                 .title = QByteArray::fromHex("c4e3bac3"),
-                                 .content = QByteArray::fromHex("e4bda0e5a5bd")};
-        QVERIFY(key113(panel).record == expected);
-        panel.receive(whole("0105000000 010103 06 00"));
-        QCOMPARE(key113(panel).record.title, QByteArray());
-        QCOMPARE(panel.violations(), QStringList());
-    }
-
-    void picturesUnderBothIds()
-    {
-        for (const char *ids : {"01010305", "01010309"}) {
-            PanelModel panel;
-            setFunction(panel, "03");
-            send(panel, blocks(attribute(ids, picture(pngFile(90, 84)))));
-            QCOMPARE(key113(panel).picture, pngFile(90, 84));
-            QCOMPARE(panel.violations(), QStringList());
-        }
-    }
-
     void mergedKeyTakesALargerPicture()
     {
         PanelModel panel;
@@ -88,30 +49,6 @@ private slots:
         QVERIFY(panel.state().layouts.isEmpty());
     }
 
-    void actionList()
-    {
-        PanelModel panel;
-        setFunction(panel, "04");
-        const QByteArray list =
-            QByteArray::fromHex("8600 640a00 030000") + QByteArray("http://a").leftJustified(128, '\0');
-        send(panel, blocks(attribute("0101030f", list)));
-        QCOMPARE(key113(panel).actions, list);
-        panel.receive(whole("0106000000 010103 0f 0000"));
-        QCOMPARE(key113(panel).actions, QByteArray(2, '\0'));
-        QCOMPARE(panel.violations(), QStringList());
-    }
-
-    void clearing()
-    {
-        PanelModel panel;
-        for (const char *clear : {"0104000000 010103 0d", "0f01000000 5a"}) {
-            setFunction(panel, "03");
-            panel.receive(whole(clear));
-            QVERIFY(panel.state().keys.isEmpty());
-        }
-        QCOMPARE(panel.violations(), QStringList());
-    }
-
     /// A title without function could never be read back: it is dropped, and not a fault of the host.
     void attributeOfAnEmptyKeyIsDropped()
     {
@@ -120,22 +57,6 @@ private slots:
         QVERIFY(panel.state().keys.isEmpty());
         QCOMPARE(panel.violations(), QStringList());
         QCOMPARE(panel.journal().events().size(), 1);
-    }
-
-    void settings()
-    {
-        PanelModel panel;
-        panel.receive(whole("1002000000 0032"));
-        QCOMPARE(int(panel.state().brightness), 50);
-        panel.receive(whole("1201000000 01"));
-        QCOMPARE(int(panel.state().systemType), 1);
-        panel.receive(whole("1106000000 0201 0301ffff"));
-        QCOMPARE(panel.state().home.layoutId, 2);
-        QCOMPARE(panel.state().home.entries, (QVector<HomeLayout::Entry>{{3, 1, -1, -1}}));
-        const QByteArray file = QByteArray("a.txt").leftJustified(32, '\0') + "hello";
-        panel.receive(hostReport(0, QByteArray::fromHex("0626000000 10") + file));
-        QCOMPARE(panel.state().files.value(QStringLiteral("a.txt")), QByteArray("hello"));
-        QCOMPARE(panel.violations(), QStringList());
     }
 
     /// 56, 57 and 58 bytes of a message that goes in blocks: flag 0, flag 2 alone, flags 1 and 2.

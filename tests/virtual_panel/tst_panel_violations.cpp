@@ -164,8 +164,7 @@ private slots:
         PanelModel panel;
         panel.receive(whole("0702000000 0101"));
         panel.receive(whole("0702000000 0100"));
-        QVERIFY(panel.violations().first().startsWith(
-            QStringLiteral("report 2: page id 0 | 03 02 00 02 00 07 00 07")));
+        QVERIFY(panel.violations().first().startsWith("report 2: page id 0 | 03 02 00 02 00 07 00 07"_s));
         QCOMPARE(panel.state().page, 1);
     }
 };

@@ -1,6 +1,8 @@
 /// Literal bytes for the tests: "03 02" is two bytes; blanks do not count.
 #pragma once
 
+#include "support/texts.h"
+
 #include <QByteArray>
 
 inline QByteArray hex(const char *text)

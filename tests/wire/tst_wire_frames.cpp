@@ -1,10 +1,9 @@
 // Report frames, application messages and the firmware's checksum, byte for byte.
 #include "bytesofhex.h"
+#include "support/table.h"
 #include "wire/applicationmessage.h"
 #include "wire/crc16.h"
 #include "wire/reportframe.h"
-
-#include <QtTest>
 
 using ReportFrame::Block;
 Q_DECLARE_METATYPE(ReportFrame::Block)
@@ -21,26 +20,25 @@ QByteArray bytesOf(const ReportFrame::Report &report)
 class WireFrames : public QObject
 {
     Q_OBJECT
+    using FramesAReportTable = Table<Block, QByteArray, QByteArray>;
+    using ReadsAReportTable = Table<QByteArray, int, QByteArray>;
+    using SplitsAMessageTable = Table<QByteArray, quint32, QByteArray>;
 
 private slots:
     void framesAReport_data()
     {
-        QTest::addColumn<Block>("flag");
-        QTest::addColumn<QByteArray>("payload");
-        QTest::addColumn<QByteArray>("start"); // the rest of the 64 bytes is zero
-
+        // start: the rest of the 64 bytes is zero
+        const FramesAReportTable row;
         const QByteArray full(57, '\xAB');
-        QTest::newRow("nothing") << Block::Whole << QByteArray() << hex("03 02 00 02 00 00 00");
-        QTest::newRow("whole") << Block::Whole << hex("08") << hex("03 02 00 02 00 01 00 08");
-        QTest::newRow("full, more to come") << Block::More << full << hex("03 02 01 02 00 39 00") + full;
-        QTest::newRow("last one") << Block::Last << hex("EE") << hex("03 02 02 02 00 01 00 EE");
+        row("nothing", Block::Whole, {}, hex("03 02 00 02 00 00 00"));
+        row("whole", Block::Whole, hex("08"), hex("03 02 00 02 00 01 00 08"));
+        row("full, more to come", Block::More, full, hex("03 02 01 02 00 39 00") + full);
+        row("last one", Block::Last, hex("EE"), hex("03 02 02 02 00 01 00 EE"));
     }
 
     void framesAReport()
     {
-        QFETCH(Block, flag);
-        QFETCH(QByteArray, payload);
-        QFETCH(QByteArray, start);
+        const auto [flag, payload, start] = FramesAReportTable::current();
         ReportFrame::Report report;
         report.fill(0x77); // what an earlier block left behind must not travel
         QCOMPARE(ReportFrame::encode(flag, data(payload), payload.size(), report), 7 + payload.size());
@@ -59,26 +57,23 @@ private slots:
 
     void readsAReport_data()
     {
-        QTest::addColumn<QByteArray>("start");
-        QTest::addColumn<int>("flag");
-        QTest::addColumn<QByteArray>("payload");
-
+        const ReadsAReportTable row;
         const QByteArray full(58, '\5');
-        QTest::newRow("unexamined bytes") << hex("EE 02 EE EE 02 00 0A 0B") << 2 << hex("0A 0B");
-        QTest::newRow("full") << hex("02 01 02 00 3A 00") + full << 1 << full;
-        QTest::newRow("one more than fits") << hex("02 01 02 00 3B 00") + full << 1 << full;
-        QTest::newRow("length 256 is not 1, nor 0") << hex("02 01 02 00 00 01") + full << 1 << full;
-        QTest::newRow("foreign flag") << hex("02 09 02 00 00 00") << 9 << QByteArray();
+        row("unexamined bytes", hex("EE 02 EE EE 02 00 0A 0B"), 2, hex("0A 0B"));
+        row("full", hex("02 01 02 00 3A 00") + full, 1, full);
+        row("one more than fits", hex("02 01 02 00 3B 00") + full, 1, full);
+        row("length 256 is not 1, nor 0", hex("02 01 02 00 00 01") + full, 1, full);
+        row("foreign flag", hex("02 09 02 00 00 00"), 9, {});
     }
 
     void readsAReport()
     {
-        QFETCH(QByteArray, start);
+        const auto [start, flag, payload] = ReadsAReportTable::current();
         ReportFrame::Report report{};
         std::copy_n(data(start), start.size(), report.begin());
         const ReportFrame::Incoming incoming = ReportFrame::decodeIncoming(report);
-        QTEST(int(incoming.flag), "flag");
-        QTEST(QByteArray(reinterpret_cast<const char *>(incoming.payload), incoming.length), "payload");
+        QCOMPARE(int(incoming.flag), flag);
+        QCOMPARE(QByteArray(reinterpret_cast<const char *>(incoming.payload), incoming.length), payload);
     }
 
     void buildsMessages()
@@ -97,26 +92,23 @@ private slots:
 
     void splitsAMessage_data()
     {
-        QTest::addColumn<QByteArray>("message");
-        QTest::addColumn<quint32>("length");
-        QTest::addColumn<QByteArray>("body");
-
-        QTest::newRow("bare") << hex("10") << 0U << QByteArray();
-        QTest::newRow("length field cut short") << hex("10 01 00 00") << 0U << QByteArray();
-        QTest::newRow("length field alone") << hex("10 01 00 00 00") << 1U << QByteArray();
-        QTest::newRow("exact") << hex("10 02 00 00 00 01 32") << 2U << hex("01 32");
-        QTest::newRow("more arrived than counted") << hex("10 01 00 00 00 01 32") << 1U << hex("01");
-        QTest::newRow("less arrived") << hex("10 FF FF FF FF 01 32") << 0xFFFFFFFFU << hex("01 32");
+        const SplitsAMessageTable row;
+        row("bare", hex("10"), 0U, {});
+        row("length field cut short", hex("10 01 00 00"), 0U, {});
+        row("length field alone", hex("10 01 00 00 00"), 1U, {});
+        row("exact", hex("10 02 00 00 00 01 32"), 2U, hex("01 32"));
+        row("more arrived than counted", hex("10 01 00 00 00 01 32"), 1U, hex("01"));
+        row("less arrived", hex("10 FF FF FF FF 01 32"), 0xFFFFFFFFU, hex("01 32"));
     }
 
     void splitsAMessage()
     {
-        QFETCH(QByteArray, message);
+        const auto [message, length, body] = SplitsAMessageTable::current();
         const auto view = ApplicationMessage::view(data(message), message.size());
         QVERIFY(view.has_value());
         QCOMPARE(int(view->code), 16);
-        QTEST(view->length, "length");
-        QTEST(QByteArray(reinterpret_cast<const char *>(view->body), view->bodySize), "body");
+        QCOMPARE(view->length, length);
+        QCOMPARE(QByteArray(reinterpret_cast<const char *>(view->body), view->bodySize), body);
     }
 
     void anEmptyMessageHasNoParts() { QVERIFY(!ApplicationMessage::view(nullptr, 0).has_value()); }

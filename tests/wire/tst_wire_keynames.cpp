@@ -28,11 +28,11 @@ private slots:
     void nameOfACode()
     {
         for (const int gap : {0, 50, 75, 223, 255})
-            QCOMPARE(KeyNames::name(quint8(gap)), QStringLiteral("undefine"));
-        QCOMPARE(KeyNames::name(79), QStringLiteral("PageDown")); // shared by two names
-        QCOMPARE(KeyNames::name(80), QStringLiteral("LeftArrow"));
-        QCOMPARE(KeyNames::name(205), QStringLiteral("@"));
-        QCOMPARE(KeyNames::name(224), QStringLiteral("Left Ctrl"));
+            QCOMPARE(KeyNames::name(quint8(gap)), "undefine"_s);
+        QCOMPARE(KeyNames::name(79), "PageDown"_s); // shared by two names
+        QCOMPARE(KeyNames::name(80), "LeftArrow"_s);
+        QCOMPARE(KeyNames::name(205), "@"_s);
+        QCOMPARE(KeyNames::name(224), "Left Ctrl"_s);
     }
 
     /// A slip in one of the hundred rows (two names with one code, a name twice) shows here.
@@ -46,24 +46,24 @@ private slots:
             if (KeyNames::name(KeyNames::code(name)) != name)
                 changed << name;
         }
-        QCOMPARE(changed, QStringList(QStringLiteral("RightArrow")));
+        QCOMPARE(changed, QStringList("RightArrow"_s));
     }
 
     void combinations()
     {
         QCOMPARE(keyCombinationCodes({}), hex("00 00 00 00"));
-        QCOMPARE(keyCombinationCodes(QStringLiteral("####")), hex("00 00 00 00"));
-        QCOMPARE(keyCombinationCodes(QStringLiteral("Left Ctrl#C##")), hex("E0 06 00 00"));
-        QCOMPARE(keyCombinationCodes(QStringLiteral("#Alt#Tab")), hex("00 E2 2B 00"));
-        QCOMPARE(keyCombinationCodes(QStringLiteral("Ctrl#A#undefine#1")), hex("00 04 00 1E"));
-        QCOMPARE(keyCombinationCodes(QStringLiteral("A#B#C#D#E")), hex("04 05 06 07"));
+        QCOMPARE(keyCombinationCodes("####"_s), hex("00 00 00 00"));
+        QCOMPARE(keyCombinationCodes("Left Ctrl#C##"_s), hex("E0 06 00 00"));
+        QCOMPARE(keyCombinationCodes("#Alt#Tab"_s), hex("00 E2 2B 00"));
+        QCOMPARE(keyCombinationCodes("Ctrl#A#undefine#1"_s), hex("00 04 00 1E"));
+        QCOMPARE(keyCombinationCodes("A#B#C#D#E"_s), hex("04 05 06 07"));
     }
 
     void combinationText()
     {
-        QCOMPARE(keyCombinationText(hex("E0 06 00 00")), QStringLiteral("Left Ctrl#C#undefine#undefine"));
-        QCOMPARE(keyCombinationText(hex("04")), QStringLiteral("A#undefine#undefine#undefine"));
-        QCOMPARE(keyCombinationText(hex("04 05 06 07 08")), QStringLiteral("A#B#C#D"));
+        QCOMPARE(keyCombinationText(hex("E0 06 00 00")), "Left Ctrl#C#undefine#undefine"_s);
+        QCOMPARE(keyCombinationText(hex("04")), "A#undefine#undefine#undefine"_s);
+        QCOMPARE(keyCombinationText(hex("04 05 06 07 08")), "A#B#C#D"_s);
     }
 };
 

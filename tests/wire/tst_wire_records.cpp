@@ -1,10 +1,9 @@
 // Records of fixed shape: the panel's key record and page, home layout, custom layout.
 #include "bytesofhex.h"
+#include "support/table.h"
 #include "wire/customlayout.h"
 #include "wire/homelayout.h"
 #include "wire/keyrecord.h"
-
-#include <QtTest>
 
 namespace {
 
@@ -26,6 +25,8 @@ KeyRecord decoded(const QByteArray &bytes)
 class WireRecords : public QObject
 {
     Q_OBJECT
+    using PagesTable = Table<int, int>;
+    using CustomLayoutsTable = Table<QString, QByteArray, QString>;
 
 private slots:
     void readsEveryFieldOfAKeyRecord()
@@ -71,19 +72,17 @@ private slots:
 
     void pages_data()
     {
-        QTest::addColumn<int>("size");
-        QTest::addColumn<int>("records"); // 0: refused
-
-        QTest::newRow("one byte short") << 273 << 0;
-        QTest::newRow("one record") << 274 << 1;
-        QTest::newRow("one byte short of two") << 2 + 2 * 272 - 1 << 1;
-        QTest::newRow("15 records and trailing bytes") << 2 + 272 * 15 + 100 << 15;
+        // records: 0: refused
+        const PagesTable row;
+        row("one byte short", 273, 0);
+        row("one record", 274, 1);
+        row("one byte short of two", 2 + 2 * 272 - 1, 1);
+        row("15 records and trailing bytes", 2 + 272 * 15 + 100, 15);
     }
 
     void pages()
     {
-        QFETCH(int, size);
-        QFETCH(int, records);
+        const auto [size, records] = PagesTable::current();
         const QByteArray bytes = (hex("04 07") + exampleRecord().repeated(16)).left(size);
         const auto page = decodePagePayload(data(bytes), bytes.size());
         QCOMPARE(page.has_value(), records > 0);
@@ -120,30 +119,26 @@ private slots:
 
     void customLayouts_data()
     {
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("back");
-
+        const CustomLayoutsTable row;
         const QByteArray x(127, 'x');
         const QString cut = QString::fromLatin1(x);
-        QTest::newRow("title") << QStringLiteral("两大") << hex("C1 BD B4 F3") << QStringLiteral("两大");
-        QTest::newRow("none, the keys stand where they always do") << QString() << QByteArray() << QString();
-        QTest::newRow("cut on a whole character") << cut + QStringLiteral("中") << x << cut;
+        row("title", "两大", hex("C1 BD B4 F3"), "两大");
+        row("none, the keys stand where they always do", {}, {}, {});
+        row("cut on a whole character", cut + "中"_s, x, cut);
     }
 
     void customLayouts()
     {
-        QFETCH(QString, title);
-        QFETCH(QByteArray, bytes);
+        const auto [title, bytes, back] = CustomLayoutsTable::current();
         const QVector<CustomLayoutRecord::Key> keys{{.first = 1, .last = 7}, {.first = 15, .last = 15}};
         const QByteArray body = CustomLayoutRecord::encode({.layoutNumber = 5, .title = title, .keys = keys});
         QCOMPARE(body, hex("05") + char(bytes.size()) + hex("02 00") + bytes.leftJustified(128, '\0') +
                            hex("01 01 07 02 0F 0F"));
-        const auto back = CustomLayoutRecord::decode(body);
-        QVERIFY(back.has_value());
-        QCOMPARE(back->layoutNumber, 5);
-        QTEST(back->title, "back");
-        QVERIFY(back->keys == keys);
+        const auto layout = CustomLayoutRecord::decode(body);
+        QVERIFY(layout.has_value());
+        QCOMPARE(layout->layoutNumber, 5);
+        QCOMPARE(layout->title, back);
+        QVERIFY(layout->keys == keys);
 
         QVERIFY(!CustomLayoutRecord::decode(body.chopped(1)).has_value());
         QVERIFY(!CustomLayoutRecord::decode(body.left(131)).has_value());

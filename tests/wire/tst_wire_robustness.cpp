@@ -11,7 +11,6 @@
 #include "wire/reportframe.h"
 #include "wire/textcodec.h"
 
-#include <QRandomGenerator>
 #include <QtTest>
 #include <vector>
 
@@ -129,13 +128,12 @@ private slots:
         KeyRecord record{.functionId = 15, .title = hex("D6 D0"), .content = hex("41 00")};
         QTest::newRow("message") << ApplicationMessage::keyAddressed(1, 2, 3, 9, QByteArray(40, 'p'));
         QTest::newRow("page") << encodePagePayload({.layoutId = 1, .pageId = 2, .records = {record, record}});
-        const QVector<ActionList::Action> actions{
-            {2, 0, QStringLiteral("/a")}, {100, 5, {}}, {16, 0, QStringLiteral("A#B")}};
+        const QVector<ActionList::Action> actions{{2, 0, "/a"_s}, {100, 5, {}}, {16, 0, "A#B"_s}};
         QTest::newRow("actions") << ActionList::encode(actions).value;
         QTest::newRow("home layout") << HomeLayout::encode(
             {.layoutId = 1, .entries = {{1, 2, 3, 4}, {5, 6, 7, 8}}});
         QTest::newRow("custom layout") << CustomLayoutRecord::encode(
-            {.layoutNumber = 1, .title = QStringLiteral("中文"), .keys = {{1, 5}, {6, 10}, {11, 15}}});
+            {.layoutNumber = 1, .title = "中文"_s, .keys = {{1, 5}, {6, 10}, {11, 15}}});
     }
 
     void validBytes()

@@ -7,7 +7,29 @@
 #include <QImage>
 #include <QVector>
 
-/// Decodes picture and video once, and draws the face as often as needed.
+/// The pictures of a video: every JPEG file in it (motion JPEG, bare or in a container), or the one picture
+/// that it is. Only the picture that was asked for last is held decoded: ten minutes of a merged key would
+/// fill the memory.
+class VideoPlayer
+{
+public:
+    VideoPlayer() = default;
+    explicit VideoPlayer(const QByteArray &video);
+
+    int frames() const { return mStarts.size(); }
+    /// The picture at @p time (ms), round and round; at the rate of an AVI file, else at 12 a second. Null
+    /// when there is none, or it is damaged.
+    QImage frame(qint64 time) const;
+
+private:
+    QByteArray mVideo;
+    QVector<int> mStarts; ///< byte offsets
+    qint64 mMicrosecondsPerFrame = 1000 * 1000 / 12;
+    mutable int mDecoded = -1; ///< index of mFrame
+    mutable QImage mFrame;
+};
+
+/// Decodes the picture once, and draws the face as often as needed.
 class KeyView
 {
 public:
@@ -18,15 +40,11 @@ public:
     /// @param time in ms since any moment; moves effects and videos.
     QImage face(const QSize &size, qint64 time) const;
 
-    bool isMoving() const { return mFrames.size() > 1 || vorlinmodel::isMovingEffect(mFace.imageEffects); }
+    bool isMoving() const { return mVideo.frames() > 1 || vorlinmodel::isMovingEffect(mFace.imageEffects); }
     bool isLatched() const { return mLatched; }
 
 private:
     vorlinmodel::KeyFace mFace;
-    QVector<QImage> mFrames;
+    VideoPlayer mVideo;
     bool mLatched = false;
 };
-
-/// The pictures of a video: every JPEG file in @p video (motion JPEG, bare or in a container), at most 900,
-/// or the one picture that it is.
-QVector<QImage> videoFrames(const QByteArray &video);

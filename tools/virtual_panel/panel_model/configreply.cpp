@@ -39,8 +39,16 @@ static void sendEmptyPage(Outbox &outbox)
         ApplicationMessage::plain(FunctionCode::MD_FUNCTION_CODE_READ_CONFIGFILE, encodePagePayload(page)));
 }
 
+static void sendLayouts(const PanelState &state, Outbox &outbox)
+{
+    for (const CustomLayoutRecord::Record &layout : state.layouts)
+        outbox.addMessage(ApplicationMessage::plain(FunctionCode::MD_FUNCTION_CODE_CUSTOMLAYOUT_SET,
+                                                    CustomLayoutRecord::encode(layout)));
+}
+
 void sendConfiguration(const PanelState &state, Outbox &outbox)
 {
+    sendLayouts(state, outbox);
     if (state.keys.isEmpty())
         return sendEmptyPage(outbox);
     auto begin = state.keys.constBegin();

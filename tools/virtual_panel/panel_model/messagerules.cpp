@@ -97,7 +97,7 @@ bool isBareRequest(FunctionCode code)
 
 } // namespace
 
-QString blockFault(const ReceivedMessage &message)
+QString blockFault(const HostMessage &message)
 {
     const Cutting cutting = cuttingOf(message.bytes);
     const int size = message.bytes.size();

@@ -9,7 +9,7 @@
 namespace MessageRules {
 
 /// @return what is wrong with the cutting of @p message; empty when nothing is.
-QString blockFault(const ReceivedMessage &message);
+QString blockFault(const HostMessage &message);
 
 /// @return what is wrong with the length of @p message; empty when nothing is.
 QString lengthFault(const QByteArray &message);

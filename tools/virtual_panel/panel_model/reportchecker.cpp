@@ -23,7 +23,7 @@ ReportChecker::ReportChecker(PanelJournal &journal)
     : mJournal(journal)
 {}
 
-std::optional<ReceivedMessage> ReportChecker::take(const QByteArray &report)
+std::optional<HostMessage> ReportChecker::take(const QByteArray &report)
 {
     if (!frameHolds(report))
         return std::nullopt;
@@ -75,16 +75,16 @@ void ReportChecker::checkPayload(const QByteArray &report, int length)
         mJournal.violation(QStringLiteral("empty payload"));
 }
 
-std::optional<ReceivedMessage> ReportChecker::takeWhole(const QByteArray &payload)
+std::optional<HostMessage> ReportChecker::takeWhole(const QByteArray &payload)
 {
     if (!mPartial.isEmpty()) {
         mJournal.violation(QStringLiteral("a new message in the middle of another"));
         reset();
     }
-    return ReceivedMessage{payload, 1, ReportFrame::Block::Whole};
+    return HostMessage{payload, 1, ReportFrame::Block::Whole};
 }
 
-std::optional<ReceivedMessage> ReportChecker::takeBlock(ReportFrame::Block flag, const QByteArray &payload)
+std::optional<HostMessage> ReportChecker::takeBlock(ReportFrame::Block flag, const QByteArray &payload)
 {
     if (mPartial.size() + payload.size() > ApplicationMessage::MaxSize) {
         mJournal.violation(QStringLiteral("a message over 10 MiB"));
@@ -95,7 +95,23 @@ std::optional<ReceivedMessage> ReportChecker::takeBlock(ReportFrame::Block flag,
     ++mReports;
     if (flag == ReportFrame::Block::More)
         return std::nullopt;
-    ReceivedMessage message{std::exchange(mPartial, {}), mReports, flag};
+    if (isGivenUp(payload)) {
+        mJournal.event(QStringLiteral("message given up after %1 reports").arg(mReports - 1));
+        reset();
+        return std::nullopt;
+    }
+    HostMessage message{std::exchange(mPartial, {}), mReports, flag};
     reset();
     return message;
+}
+
+/// The host gives a message up by closing it with a block of a single zero byte, so that it ends before the
+/// length that it has announced. Only that is no fault: a message cut short in any other way is one.
+bool ReportChecker::isGivenUp(const QByteArray &lastPayload) const
+{
+    if (mReports < 2 || lastPayload != QByteArray(1, '\0'))
+        return false;
+    const auto announced =
+        qFromLittleEndian<quint32>(mPartial.constData() + ApplicationMessage::LengthOffset);
+    return announced > quint32(mPartial.size() - ApplicationMessage::BodyOffset);
 }

@@ -10,7 +10,7 @@
 class PanelJournal;
 
 /// A message as it came, with how it was cut.
-struct ReceivedMessage
+struct HostMessage
 {
     QByteArray bytes;
     int reports = 0;
@@ -23,8 +23,9 @@ public:
     explicit ReportChecker(PanelJournal &journal);
 
     /// Takes one report. A broken frame is noted and dropped; a smaller fault is noted and the payload used.
+    /// A message that the host gives up, see isGivenUp(), is dropped with an event.
     /// @return the message that the report completed.
-    std::optional<ReceivedMessage> take(const QByteArray &report);
+    std::optional<HostMessage> take(const QByteArray &report);
 
     /// Forgets a message that is not complete.
     void reset();
@@ -35,8 +36,9 @@ public:
 private:
     bool frameHolds(const QByteArray &report);
     void checkPayload(const QByteArray &report, int length);
-    std::optional<ReceivedMessage> takeWhole(const QByteArray &payload);
-    std::optional<ReceivedMessage> takeBlock(ReportFrame::Block flag, const QByteArray &payload);
+    std::optional<HostMessage> takeWhole(const QByteArray &payload);
+    std::optional<HostMessage> takeBlock(ReportFrame::Block flag, const QByteArray &payload);
+    bool isGivenUp(const QByteArray &lastPayload) const;
 
     PanelJournal &mJournal;
     QByteArray mPartial;
