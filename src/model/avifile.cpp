@@ -17,7 +17,6 @@ constexpr int Height = 68;               // u32
 constexpr int StreamHeader = 100;
 constexpr int StreamType = 108;
 constexpr int StreamCodec = 112;
-constexpr int Size = 116;
 } // namespace AviField
 
 } // namespace
@@ -27,16 +26,20 @@ std::optional<AviInfo> readAviInfo(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
-    const QByteArray head = file.read(AviField::Size);
+    return readAviInfo(file.read(AviHeadSize), file.size());
+}
+
+std::optional<AviInfo> readAviInfo(const QByteArray &head, qint64 fileSize)
+{
     const auto tag = [&head](int at) {
         return head.mid(at, 4);
     };
     const auto number = [&head](int at) {
         return qFromLittleEndian<quint32>(head.constData() + at);
     };
-    if (head.size() < AviField::Size || tag(0) != "RIFF" || tag(8) != "AVI " ||
+    if (head.size() < AviHeadSize || tag(0) != "RIFF" || tag(8) != "AVI " ||
         tag(AviField::MainHeader) != "avih" || tag(AviField::StreamHeader) != "strh" ||
-        number(AviField::FileSize) + qint64{8} > file.size())
+        number(AviField::FileSize) + qint64{8} > fileSize)
         return std::nullopt;
     return AviInfo{.size = {int(number(AviField::Width)), int(number(AviField::Height))},
                    .frames = number(AviField::Frames),

@@ -33,7 +33,6 @@ constexpr char RestoreFailed[] = "Failed to restore  [%s]!";
 } // namespace LogText
 
 constexpr char ScriptPrefix[] = "/script_";
-constexpr char ScriptFile[] = "/CD.bin";
 
 // In the order in which they are copied.
 constexpr std::array SettingsFiles = {"customLayout.ini", "multiActions.json", "system.ini"};
@@ -101,16 +100,32 @@ bool restoreFile(const QString &source, const QString &target)
 
 } // namespace
 
-QString scriptFolder(const QString &exportDirectory, const QDateTime &now)
+QStringList settingsFileNames()
+{
+    QStringList names;
+    for (const char *name : SettingsFiles)
+        names.append(QLatin1String(name));
+    return names;
+}
+
+QString baseFolder(const QString &exportDirectory)
 {
     QString base = exportDirectory;
     if (base.isEmpty())
-        base = vorlindesk::Paths::devConfigFolder() + QLatin1Char('/');
+        base = vorlindesk::Paths::devConfigFolder();
     // Cut where an earlier export begins: 23 characters from the end when nothing follows it. A folder of the
     // user that merely begins with "script_" is not one of ours.
     static const QRegularExpression earlierExport(QStringLiteral("/script_\\d{8}_\\d{6}(?=/|$)"));
     if (const auto match = earlierExport.match(base); match.hasMatch())
         base.truncate(match.capturedStart());
+    return base;
+}
+
+QString scriptFolder(const QString &exportDirectory, const QDateTime &now)
+{
+    QString base = baseFolder(exportDirectory);
+    if (exportDirectory.isEmpty()) // the slash is doubled: so the folder reads in the log
+        base += QLatin1Char('/');
     return base + QLatin1String(ScriptPrefix) + now.toString(QStringLiteral("yyyyMMdd_HHmmss"));
 }
 
@@ -118,7 +133,7 @@ bool writeScript(const QString &exportDirectory, const QByteArray &bytes, const 
 {
     const QString folder = scriptFolder(exportDirectory, now);
     QDir().mkpath(folder); // a failure shows when the file cannot be opened
-    const QString path = folder + QLatin1String(ScriptFile);
+    const QString path = filePath(folder, ScriptFileName);
     Log(LogLevel::Info, LogText::ScriptFileName, qUtf8Printable(path));
     QString error;
     if (!writeWholeFile(path, bytes, error)) {
@@ -136,7 +151,7 @@ std::optional<QByteArray> readScript(const QString &folder)
         Log(LogLevel::Error, LogText::ScriptFolderMissing, qUtf8Printable(folder));
         return std::nullopt;
     }
-    const QString path = folder + QLatin1String(ScriptFile);
+    const QString path = filePath(folder, ScriptFileName);
     QString error;
     auto bytes = readWholeFile(path, error);
     if (!bytes) {

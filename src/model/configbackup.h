@@ -5,11 +5,21 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <QString>
+#include <QStringList>
 #include <optional>
 
 /// Folders are given without a trailing slash. Failures are logged here and returned; nothing is rolled back.
 /// Any thread may call them.
 namespace vorlinmodel::ConfigBackup {
+
+inline constexpr char ScriptFileName[] = "CD.bin";
+
+/// "customLayout.ini", "multiActions.json" and "system.ini", in the order in which they are copied.
+QStringList settingsFileNames();
+
+/// Folder that holds the dated folders: the export directory (an empty one means the current "devConfig"),
+/// or, when that is itself a dated folder or lies in one, the folder that this one lies in.
+QString baseFolder(const QString &exportDirectory);
 
 /// Folder of an export made at @p now (local time): the export directory (an empty one means the current
 /// "devConfig/") + "/script_" + "yyyyMMdd_HHmmss". An export directory that is itself such a folder yields a

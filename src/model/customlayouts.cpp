@@ -2,65 +2,146 @@
 
 #include "base/paths.h"
 #include "base/systemsettings.h"
-#include "model/keyid.h"
+#include "customlayoutreading.h"
+#include "model/layoutgrouping.h"
+#include "model/wholefile.h"
 
-#include <QStringList>
-#include <QVariant>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
 #include <algorithm>
+#include <bit>
+#include <functional>
+
+using vorlindesk::IniFile;
 
 namespace vorlinmodel {
 
 namespace {
 
-constexpr quint32 AllPhysicalKeys = 0x7FFF; // bits 0 to 14
+constexpr int Columns = 5;
 
-/// A hand-written text with a comma in it is read as a list.
-QString textOf(const QVariant &value)
+QString fileName()
 {
-    return value.toStringList().join(QLatin1String(", "));
+    return vorlindesk::Paths::customLayoutIni();
 }
 
-quint32 maskOf(const QVariant &value)
+QString groupOf(int layoutId)
 {
-    bool isNumber = false;
-    const uint mask = textOf(value).trimmed().toUInt(&isNumber);
-    return isNumber && (mask & ~AllPhysicalKeys) == 0 ? mask : 0;
+    return QStringLiteral("layout_%1").arg(layoutId);
 }
 
-/// First number of an item "%1#%2#%3": the physical key.
-int physicalKeyOf(const QString &item)
+/// "%1#%2#%3&" for each physical key: its number, row and column, rows and columns counted from 1.
+QString physicalKeysOf(quint32 mask)
 {
-    const int key = item.section(QLatin1Char('#'), 0, 0).toInt();
-    return key >= FirstKeyId && key <= LastKeyId ? key : 0;
-}
-
-CustomLayoutKey keyOf(const QSettings &settings, int number)
-{
-    CustomLayoutKey key;
-    key.mask = maskOf(settings.value(QStringLiteral("%1_bitmap").arg(number)));
-    const QString text = textOf(settings.value(QStringLiteral("phyid_%1").arg(number)));
-    const QStringList items = text.split(QLatin1Char('&'), Qt::SkipEmptyParts);
-    if (!items.isEmpty()) {
-        key.firstPhysical = physicalKeyOf(items.first());
-        key.lastPhysical = physicalKeyOf(items.last());
+    QString text;
+    for (int i = 0; mask >> i != 0; ++i) {
+        if ((mask >> i & 1U) != 0)
+            text += QStringLiteral("%1#%2#%3&").arg(i + 1).arg(i / Columns + 1).arg(i % Columns + 1);
     }
-    return key;
+    return text;
+}
+
+void writeGroup(QSettings &settings, const CustomLayout &layout)
+{
+    settings.setValue(QStringLiteral("num"), layout.keys.size());
+    settings.setValue(QStringLiteral("name"), layout.name);
+    for (int number = 1; number <= layout.keys.size(); ++number) {
+        const quint32 mask = layout.keys.at(number - 1).mask;
+        settings.setValue(QStringLiteral("phyid_%1").arg(number), physicalKeysOf(mask));
+        settings.setValue(QStringLiteral("%1_bitmap").arg(number), QString::number(mask));
+    }
+    if (layout.background.isEmpty())
+        return;
+    QStringList pages;
+    for (const int page : layout.backgroundPages)
+        pages.append(QString::number(page));
+    settings.setValue(QStringLiteral("background"), layout.background);
+    settings.setValue(QStringLiteral("background_pages"), pages.join(QLatin1Char(' ')));
+    settings.setValue(QStringLiteral("background_empty"), layout.backgroundOnEmptyKeys);
+}
+
+/// Entries that writeGroup() may leave out, of keys that are no more among them.
+void removeOwnEntries(QSettings &settings)
+{
+    static const QRegularExpression own(
+        QStringLiteral("^(phyid_\\d+|\\d+_bitmap|background(_pages|_empty)?)$"));
+    for (const QString &key : settings.childKeys()) {
+        if (own.match(key).hasMatch())
+            settings.remove(key);
+    }
+}
+
+/// The settings library goes on handing out what it could not write. So a copy is changed, which takes the
+/// place of the file when it is whole.
+bool changeFile(const std::function<void(QSettings &settings)> &change)
+{
+    const IniFile original(fileName()); // keeps a file aside that cannot be parsed
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath(QStringLiteral("customLayout.ini"));
+    const bool isThere = QFile::exists(fileName());
+    if (!folder.isValid() || (isThere && !QFile::copy(fileName(), copy)))
+        return false;
+    if (isThere) // the copy of a file that may not be written may not, either
+        QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
+    {
+        QSettings settings(copy, QSettings::IniFormat);
+        settings.setIniCodec("utf-8");
+        change(settings);
+        settings.sync();
+        if (settings.status() == QSettings::AccessError)
+            return false;
+    }
+    QString error;
+    const auto bytes = readWholeFile(copy, error);
+    vorlindesk::Paths::createPath(vorlindesk::Paths::devConfigFolder());
+    return bytes && writeWholeFile(fileName(), *bytes, error);
+}
+
+QStringList problemsOf(int layoutId)
+{
+    IniFile file(fileName());
+    QSettings &settings = file.settings();
+    if (!settings.childGroups().contains(groupOf(layoutId)))
+        return {};
+    settings.beginGroup(groupOf(layoutId));
+    return readCustomLayoutGroup(settings, layoutId).problems;
+}
+
+bool keepWhatIsOverwritten(int layoutId)
+{
+    return problemsOf(layoutId).isEmpty() || keepCustomLayoutFile();
 }
 
 } // namespace
 
+CustomLayout customLayoutOf(int layoutId, const QString &name, const LayoutGrouping &grouping)
+{
+    CustomLayout layout;
+    layout.layoutId = layoutId;
+    layout.name = name;
+    for (const quint32 mask : grouping.masks())
+        layout.keys.append({mask, std::countr_zero(mask) + 1, int(std::bit_width(mask))});
+    return layout;
+}
+
+LayoutGrouping groupingOf(const CustomLayout &layout)
+{
+    QVector<quint32> masks;
+    for (const CustomLayoutKey &key : layout.keys)
+        masks.append(key.mask);
+    return LayoutGrouping(masks);
+}
+
 QVector<int> customLayoutIds()
 {
-    constexpr int standardLayout = 1;
-    constexpr int largestLayout = 255; // travels in one byte
-    const QLatin1String prefix("layout_");
     QVector<int> ids;
-    if (!QFile::exists(vorlindesk::Paths::customLayoutIni()))
+    if (!QFile::exists(fileName()))
         return ids;
-    vorlindesk::IniFile file(vorlindesk::Paths::customLayoutIni());
+    IniFile file(fileName());
     for (const QString &group : file->childGroups()) {
-        const int id = group.startsWith(prefix) ? group.mid(prefix.size()).toInt() : 0;
-        if (id > standardLayout && id <= largestLayout && group == prefix + QString::number(id))
+        const int id = customLayoutIdOf(group);
+        if (id != 0)
             ids.append(id);
     }
     std::sort(ids.begin(), ids.end());
@@ -69,19 +150,66 @@ QVector<int> customLayoutIds()
 
 std::optional<CustomLayout> loadCustomLayout(int layoutId)
 {
-    vorlindesk::IniFile file(vorlindesk::Paths::customLayoutIni());
+    IniFile file(fileName());
     QSettings &settings = file.settings();
-    const QString group = QStringLiteral("layout_%1").arg(layoutId);
-    if (!settings.childGroups().contains(group))
+    if (!settings.childGroups().contains(groupOf(layoutId)))
         return std::nullopt;
-    settings.beginGroup(group);
-    CustomLayout layout;
-    layout.layoutId = layoutId;
-    layout.name = textOf(settings.value(QStringLiteral("name")));
-    const int count = std::clamp(settings.value(QStringLiteral("num")).toInt(), 0, LastKeyId);
-    for (int number = 1; number <= count; ++number)
-        layout.keys.append(keyOf(settings, number));
-    return layout;
+    settings.beginGroup(groupOf(layoutId));
+    return readCustomLayoutGroup(settings, layoutId).layout;
+}
+
+QStringList customLayoutProblems()
+{
+    QStringList problems;
+    if (!QFile::exists(fileName()))
+        return problems;
+    {
+        IniFile file(fileName());
+        for (const QString &group : file->childGroups()) {
+            const QString problem = customLayoutGroupProblem(group);
+            if (!problem.isEmpty())
+                problems.append(problem);
+        }
+    }
+    for (const int layoutId : customLayoutIds())
+        problems += problemsOf(layoutId);
+    return problems;
+}
+
+bool saveCustomLayout(const CustomLayout &layout)
+{
+    return keepWhatIsOverwritten(layout.layoutId) && changeFile([&layout](QSettings &settings) {
+               settings.beginGroup(groupOf(layout.layoutId));
+               removeOwnEntries(settings);
+               writeGroup(settings, layout);
+           });
+}
+
+bool removeCustomLayout(int layoutId)
+{
+    return keepWhatIsOverwritten(layoutId) &&
+           changeFile([layoutId](QSettings &settings) { settings.remove(groupOf(layoutId)); });
+}
+
+bool keepCustomLayoutFile()
+{
+    QString error;
+    if (!QFile::exists(fileName()))
+        return true;
+    const auto bytes = readWholeFile(fileName(), error);
+    const QString aside = fileName() + QStringLiteral(".before");
+    QString copy = aside;
+    for (int number = 2; bytes && QFile::exists(copy); ++number) {
+        if (readWholeFile(copy, error) == bytes)
+            return true;
+        copy = aside + QString::number(number);
+    }
+    return bytes && writeWholeFile(copy, *bytes, error);
+}
+
+QString layoutPictureFolder()
+{
+    return vorlindesk::Paths::devConfigFolder() + QStringLiteral("/layouts");
 }
 
 } // namespace vorlinmodel

@@ -2,30 +2,62 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QVector>
 #include <optional>
 
 namespace vorlinmodel {
 
+class LayoutGrouping;
+
+constexpr int MaxCustomLayouts = 20;
+constexpr int FirstCustomLayout = 2;     ///< 1 is the standard layout
+constexpr int LargestCustomLayout = 255; ///< travels in one byte
+
 struct CustomLayoutKey
 {
-    quint32 mask = 0;      ///< bit (p - 1) for each physical key p (1 to 15) that the key covers
-    int firstPhysical = 0; ///< from the first and last item of "phyid"; 0 when missing
+    quint32 mask = 0; ///< bit (p - 1) for each physical key p (1 to 15); 0 when the file has no valid one
+    int firstPhysical = 0; ///< from the first and last item of "phyid", else from the mask; 0 when unknown
     int lastPhysical = 0;
+    bool operator==(const CustomLayoutKey &) const = default;
 };
 
 struct CustomLayout
 {
     int layoutId = 0;
     QString name;
-    QVector<CustomLayoutKey> keys; ///< logical keys 1 to n, in order
+    QVector<CustomLayoutKey> keys;     ///< logical keys 1 to n, in order
+    QString background;                ///< file name in layoutPictureFolder(); empty: none
+    QVector<int> backgroundPages;      ///< pages (1 to 16) that show it, ascending
+    bool backgroundOnEmptyKeys = true; ///< also on keys that have no function otherwise
+    bool operator==(const CustomLayout &) const = default;
 };
+
+CustomLayout customLayoutOf(int layoutId, const QString &name, const LayoutGrouping &grouping);
+LayoutGrouping groupingOf(const CustomLayout &layout);
 
 /// Ids of the custom layouts in the file, ascending; the standard layout (1) is not among them.
 QVector<int> customLayoutIds();
 
-/// Reads the group "layout_%1"; at most 15 keys are taken, whatever "num" says. Nothing when there is no such
-/// group.
+/// Reads the group "layout_%1"; at most 15 keys are taken, whatever "num" says. A key whose mask is no
+/// rectangle or overlaps an earlier key's counts as empty, so that the numbers of the others stay. Nothing
+/// when there is no such group.
 std::optional<CustomLayout> loadCustomLayout(int layoutId);
+
+/// What is wrong in the file, one plain sentence each, naming layout and key. Empty when nothing is.
+QStringList customLayoutProblems();
+
+/// Replaces the group of the layout; other groups, and entries of this one that are not ours, stay. When it
+/// has problems the file is copied aside first. @return false, the file as it was, when it cannot be written.
+bool saveCustomLayout(const CustomLayout &layout);
+
+/// Removes the group; the same about problems and failures.
+bool removeCustomLayout(int layoutId);
+
+/// Copies the file aside ("customLayout.ini.before", numbered when another content is kept there already).
+/// @return false when that fails; true also when there is no file.
+bool keepCustomLayoutFile();
+
+QString layoutPictureFolder(); ///< devConfig + "/layouts"
 
 } // namespace vorlinmodel

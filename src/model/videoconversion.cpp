@@ -124,8 +124,7 @@ private:
     /// A film of hours is refused before it is converted.
     bool checkLength()
     {
-        const qint64 frames = mSettings.byteLimit / leastFrameBytes(mSettings.size);
-        const qint64 fittingMs = qint64(double(frames) * 1000 / mFrameRate);
+        const qint64 fittingMs = longestVideoMs(mSettings, mFrameRate);
         if (mLength && *mLength > fittingMs && !mSettings.mayCut)
             return tooLong(fittingMs);
         if (mSettings.mayCut && (!mLength || *mLength > fittingMs)) {
@@ -232,6 +231,12 @@ qint64 maxVideoBytes()
 {
     constexpr int countSize = 4; // of the file's byte count, which stands before its bytes
     return ApplicationMessage::MaxSize - ApplicationMessage::KeyValueOffset - countSize;
+}
+
+qint64 longestVideoMs(const VideoSettings &settings, double frameRate)
+{
+    const qint64 frames = settings.byteLimit / leastFrameBytes(settings.size);
+    return qint64(double(frames) * 1000 / frameRate);
 }
 
 VideoConverter::VideoConverter(ConverterOptions options)

@@ -6,114 +6,15 @@
 #include "base/logcapture.h"
 #include "base/paths.h"
 #include "model/functionmanager.h"
-#include "panel_model/panelmodel.h"
-#include "platform/desktop.h"
 #include "protocol/protocolthread.h"
 #include "resources/translationresources.h"
-#include "support/fakehid.h"
+#include "support/panelbehindfake.h"
+#include "support/recordingdesktop.h"
+#include "ui_common/messagebox.h"
 #include "ui_editor/editorcontext.h"
 
-#include <QElapsedTimer>
-#include <QTemporaryDir>
-#include <QTranslator>
 #include <QtTest>
-
-/// Opens nothing: action lists may be run in tests.
-class NoDesktop : public vorlindesk::IDesktop
-{
-public:
-    bool openUrl(const QUrl &url) override { return note(QStringLiteral("url ") + url.toString()); }
-    bool openFile(const QString &path) override { return note(QStringLiteral("file ") + path); }
-    void setClipboardText(const QString &text) override { note(QStringLiteral("clipboard ") + text); }
-    bool pressPaste() override { return note(QStringLiteral("paste")); }
-
-    QStringList calls;
-
-private:
-    bool note(const QString &call)
-    {
-        calls.append(call);
-        return true;
-    }
-};
-
-/// The panel behind the fake HID library; the protocol thread and the test take turns.
-class PanelBehindFake
-{
-public:
-    PanelBehindFake()
-    {
-        fakeHid().setOnWrite([this](const QByteArray &report) { receive(report); });
-    }
-    ~PanelBehindFake() { fakeHid().setOnWrite({}); }
-    PanelBehindFake(const PanelBehindFake &) = delete;
-    PanelBehindFake &operator=(const PanelBehindFake &) = delete;
-
-    PanelState state()
-    {
-        const std::lock_guard lock(mMutex);
-        PanelState copy = mPanel.state();
-        // What is shared would be let go without the lock, which the thread checker misreads.
-        for (PanelKey &key : copy.keys) {
-            for (QByteArray *bytes : {&key.record.title, &key.record.content, &key.content, &key.picture,
-                                      &key.video, &key.actions})
-                *bytes = QByteArray(bytes->constData(), bytes->size());
-        }
-        return copy;
-    }
-    QStringList violations()
-    {
-        const std::lock_guard lock(mMutex);
-        return mPanel.violations();
-    }
-    /// Every message that has arrived whole, in hex: function code, length, body.
-    QStringList messages()
-    {
-        const std::lock_guard lock(mMutex);
-        return QStringList(mMessages.begin(), mMessages.end());
-    }
-    void clearMessages()
-    {
-        const std::lock_guard lock(mMutex);
-        mMessages.clear();
-    }
-    /// Calls @p change with the panel, no report coming in between.
-    void with(const std::function<void(PanelModel &)> &change)
-    {
-        const std::lock_guard lock(mMutex);
-        change(mPanel);
-        deliver();
-    }
-    void unplug()
-    {
-        fakeHid().setPresent(false);
-        const std::lock_guard lock(mMutex);
-        mPanel.resetLink();
-        mPayload.clear();
-    }
-    void plug() { fakeHid().setPresent(true); }
-
-private:
-    void receive(const QByteArray &report)
-    {
-        const std::lock_guard lock(mMutex);
-        mPayload += report.mid(7, report.at(5));
-        if (report.at(2) != 1)
-            mMessages.push_back(QString::fromLatin1(std::exchange(mPayload, {}).toHex(' ')));
-        mPanel.receive(report);
-        deliver();
-    }
-    void deliver()
-    {
-        for (const QByteArray &answer : mPanel.takeOutgoing())
-            fakeHid().send(answer);
-    }
-
-    std::mutex mMutex;
-    PanelModel mPanel;
-    QByteArray mPayload;
-    std::vector<QString> mMessages; // no list of Qt: see FakeHid::State
-};
+#include <QtWidgets>
 
 /// With Panel::None requests are only written down, and no thread runs. With Panel::Present or Panel::Absent
 /// the real protocol thread talks with a panel in software.
@@ -176,29 +77,28 @@ public:
     void sendRequest(vorlinmodel::RequestKind kind, int layoutId, int pageId, int keyId, int functionId,
                      int attributeId) override
     {
-        const QString ids =
-            QStringLiteral("%1: %2 %3 %4").arg(int(kind)).arg(layoutId).arg(pageId).arg(keyId);
-        requests.append(QStringLiteral("%1, fid %2, id %3").arg(ids).arg(functionId).arg(attributeId));
+        const QString ids = "%1: %2 %3 %4"_s.arg(int(kind)).arg(layoutId).arg(pageId).arg(keyId);
+        requests.append("%1, fid %2, id %3"_s.arg(ids).arg(functionId).arg(attributeId));
         post(kind, quint32(layoutId), quint32(pageId), quint32(keyId), quint32(functionId),
              quint32(attributeId));
     }
     void sendRequest(vorlinmodel::RequestKind kind, int layoutId, int pageId) override
     {
-        requests.append(QStringLiteral("%1: %2 %3").arg(int(kind)).arg(layoutId).arg(pageId));
+        requests.append("%1: %2 %3"_s.arg(int(kind)).arg(layoutId).arg(pageId));
         post(kind, quint32(layoutId), quint32(pageId));
     }
     void sendRequest(vorlinmodel::RequestKind, const QString &, const QString &) override {}
     void sendRequest(vorlinmodel::RequestKind kind, int argument) override
     {
-        requests.append(QStringLiteral("%1: %2").arg(int(kind)).arg(argument));
+        requests.append("%1: %2"_s.arg(int(kind)).arg(argument));
         post(kind, quint32(argument));
     }
     void showWaitingDialog(int requestId, int showTimeMs) override
     {
-        requests.append(QStringLiteral("dialog %1: %2").arg(requestId).arg(showTimeMs));
+        requests.append("dialog %1: %2"_s.arg(requestId).arg(showTimeMs));
     }
     void hideWaitingDialog() override {}
-    QString fontStyle() const override { return QStringLiteral("font: 75 10pt \"Arial\";"); }
+    QString fontStyle() const override { return "font: 75 10pt \"Arial\";"_s; }
 
     QString path(const char *relative) const { return mFolder.filePath(QString::fromUtf8(relative)); }
     QStringList takeRequests() { return std::exchange(requests, {}); }
@@ -206,7 +106,7 @@ public:
     LogCapture log;
     QTranslator translator;
     vorlindesk::LanguageManager language{&translator};
-    NoDesktop desktop;
+    RecordingDesktop desktop;
     vorlinmodel::FunctionManager store;
     std::unique_ptr<PanelBehindFake> panel;
     std::unique_ptr<EditorContext> context; ///< null until editor() is called
@@ -233,3 +133,23 @@ inline QString pictureFile(const QString &path, const QColor &colour, QSize size
     image.fill(colour);
     return image.save(path, "PNG") ? path : QString();
 }
+
+/// The boxes that come up while it lives, and what they are answered.
+class Boxes
+{
+public:
+    explicit Boxes(QMessageBox::StandardButton answer = QMessageBox::Ok)
+    {
+        MessageBox::setAnswer([this, answer](const QMessageBox &box) {
+            texts.append(box.text());
+            styleSheet = box.styleSheet();
+            return answer;
+        });
+    }
+    ~Boxes() { MessageBox::setAnswer({}); }
+    Boxes(const Boxes &) = delete;
+    Boxes &operator=(const Boxes &) = delete;
+
+    QStringList texts;
+    QString styleSheet;
+};

@@ -11,17 +11,6 @@
 #include "ui_editor/keywidget.h"
 #include "ui_editor/multiactionwidget.h"
 
-#include <QClipboard>
-#include <QComboBox>
-#include <QDrag>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMimeData>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QToolButton>
-
 using vorlinmodel::key_id_t;
 using Panel = EditorFixture::Panel;
 
@@ -40,7 +29,7 @@ public:
     {
         if (prepare)
             prepare(*this);
-        window.setStyleSheet(QStringLiteral("* {%1}").arg(fontStyle())); // as the program's window does
+        window.setStyleSheet("* {%1}"_s.arg(fontStyle())); // as the program's window does
         page = std::make_unique<FunctionConfigWidget>(editor(), &window);
         isSetUp = page->setup();
         page->resize(828, 576);
@@ -82,11 +71,11 @@ public:
     }
     QString notice() const
     {
-        auto *text = page->findChild<QLabel *>(QStringLiteral("noticeText"));
+        auto *text = page->findChild<QLabel *>("noticeText"_s);
         return text->isVisible() ? text->text() : QString();
     }
-    QString label() const { return page->findChild<QLabel *>(QStringLiteral("page"))->text(); }
-    QListWidget *list() const { return page->findChild<QListWidget *>(QStringLiteral("functions")); }
+    QString label() const { return page->findChild<QLabel *>("page"_s)->text(); }
+    QListWidget *list() const { return page->findChild<QListWidget *>("functions"_s); }
     int fid(const key_id_t &key) const
     {
         const auto record = store.getKeyAttribute(key);
@@ -119,31 +108,14 @@ inline PageFixture::Prepare withKeys(const QMap<key_id_t, int> &keys)
 inline void writeLayout(int layoutId, int keyCount)
 {
     QSettings file(vorlindesk::Paths::customLayoutIni(), QSettings::IniFormat);
-    file.beginGroup(QStringLiteral("layout_%1").arg(layoutId));
-    file.setValue(QStringLiteral("num"), keyCount);
-    file.setValue(QStringLiteral("name"), QStringLiteral("Desk %1").arg(layoutId));
+    file.beginGroup("layout_%1"_s.arg(layoutId));
+    file.setValue("num"_s, QString::number(keyCount)); // a text, as whoever reads the file finds it
+    file.setValue("name"_s, "Desk %1"_s.arg(layoutId));
     for (int key = 1; key <= keyCount; ++key)
-        file.setValue(QStringLiteral("%1_bitmap").arg(key), 1 << (key - 1));
+        file.setValue("%1_bitmap"_s.arg(key), QString::number(1 << (key - 1)));
 }
 
 inline void writeChildPage(int keyId, int layoutId, int pageId)
 {
     vorlindesk::SystemSettings::setHomeLayoutEntries({{keyId, layoutId, pageId, 1}});
 }
-
-class Answer
-{
-public:
-    explicit Answer(QMessageBox::StandardButton answer)
-    {
-        MessageBox::setAnswer([this, answer](const QMessageBox &box) {
-            ++asked;
-            styleSheet = box.styleSheet();
-            return answer;
-        });
-    }
-    ~Answer() { MessageBox::setAnswer({}); }
-
-    int asked = 0;
-    QString styleSheet;
-};

@@ -3,9 +3,9 @@
 #include "model/functionids.h"
 #include "model/ifunctionmanager.h"
 #include "model/multiaction.h"
+#include "support/files.h"
+#include "support/table.h"
 #include "ui_editor/keyclipboard.h"
-
-#include <QClipboard>
 
 Q_DECLARE_METATYPE(KeyState)
 
@@ -21,7 +21,7 @@ const key_id_t Other{1, 2, 4};
 void drop(EditorFixture &fixture, const key_id_t &key, int fid)
 {
     KeyEdits &edits = fixture.editor().edits;
-    edits.change(QStringLiteral("drop"), {key}, [&] {
+    edits.change("drop"_s, {key}, [&] {
         edits.store().addKeyAttribute(key, fid);
         edits.send(key, fid, AttributeId::FunctionId);
         edits.send(key, fid, AttributeId::Picture);
@@ -31,7 +31,7 @@ void drop(EditorFixture &fixture, const key_id_t &key, int fid)
 void setTitle(EditorFixture &fixture, const key_id_t &key, const QString &title)
 {
     KeyEdits &edits = fixture.editor().edits;
-    edits.change(QStringLiteral("title"), {key}, [&] {
+    edits.change("title"_s, {key}, [&] {
         edits.store().setTitle(key, title);
         edits.send(key, 0, AttributeId::Title);
     });
@@ -40,7 +40,7 @@ void setTitle(EditorFixture &fixture, const key_id_t &key, const QString &title)
 void setPicture(EditorFixture &fixture, const key_id_t &key, const QString &path)
 {
     KeyEdits &edits = fixture.editor().edits;
-    edits.change(QStringLiteral("picture"), {key}, [&] {
+    edits.change("picture"_s, {key}, [&] {
         edits.store().setCustomImage(key, path);
         edits.send(key, 0, AttributeId::Image);
     });
@@ -79,38 +79,38 @@ KeyState stateOf(int fid, const std::function<void(KeyState &)> &change = {})
 class EditsTest : public QObject
 {
     Q_OBJECT
+    using FollowsTable = Table<KeyState, KeyState, QVector<int>>;
+    using MarkTable = Table<int, int, bool>;
+
 private slots:
     void undoAndRedoReachThePanel()
     {
         EditorFixture fixture;
         KeyEdits &edits = fixture.editor().edits;
         drop(fixture, Key, 5);
-        edits.changeAtRest(QStringLiteral("title"), Key, AttributeId::Title,
-                           [&] { edits.store().setTitle(Key, QStringLiteral("a")); });
+        edits.changeAtRest("title"_s, Key, AttributeId::Title, [&] { edits.store().setTitle(Key, "a"_s); });
         fixture.takeRequests();
         edits.undo(); // ends the typing first
-        QCOMPARE(fixture.takeRequests(), QStringList({QStringLiteral("1: 1 1 3, fid 5, id 6"),
-                                                      QStringLiteral("1: 1 1 3, fid 5, id 6")}));
+        QCOMPARE(fixture.takeRequests(), texts({"1: 1 1 3, fid 5, id 6", "1: 1 1 3, fid 5, id 6"}));
         edits.undo();
-        QCOMPARE(fixture.takeRequests(), QStringList({QStringLiteral("1: 1 1 3, fid 0, id 13")}));
+        QCOMPARE(fixture.takeRequests(), texts({"1: 1 1 3, fid 0, id 13"}));
         QVERIFY(!edits.store().getKeyAttribute(Key));
         edits.redo();
         edits.redo();
-        QCOMPARE(fixture.takeRequests(), QStringList({QStringLiteral("1: 1 1 3, fid 5, id 8"),
-                                                      QStringLiteral("1: 1 1 3, fid 5, id 9"),
-                                                      QStringLiteral("1: 1 1 3, fid 5, id 6")}));
-        QCOMPARE(edits.store().getTitleText(Key), QStringLiteral("a"));
+        QCOMPARE(fixture.takeRequests(),
+                 texts({"1: 1 1 3, fid 5, id 8", "1: 1 1 3, fid 5, id 9", "1: 1 1 3, fid 5, id 6"}));
+        QCOMPARE(edits.store().getTitleText(Key), "a"_s);
     }
 
     void oneStepPerWish()
     {
         EditorFixture fixture;
         KeyEdits &edits = fixture.editor().edits;
-        edits.change(QStringLiteral("outer"), {Key}, [&] {
+        edits.change("outer"_s, {Key}, [&] {
             drop(fixture, Key, 5);
             drop(fixture, Other, 6); // a key that the outer step did not name
         });
-        edits.change(QStringLiteral("nothing"), {Key}, [] {});
+        edits.change("nothing"_s, {Key}, [] {});
         QCOMPARE(edits.history().count(), 1);
         edits.undo();
         QVERIFY(edits.store().getKeys().isEmpty());
@@ -123,17 +123,17 @@ private slots:
         drop(fixture, Key, 5);
         fixture.takeRequests();
         const auto type = [&](const QString &text) {
-            edits.changeAtRest(QStringLiteral("title"), Key, AttributeId::Title,
+            edits.changeAtRest("title"_s, Key, AttributeId::Title,
                                [&] { edits.store().setTitle(Key, text); });
         };
-        type(QStringLiteral("a"));
-        type(QStringLiteral("ab"));
+        type("a"_s);
+        type("ab"_s);
         QVERIFY(fixture.requests.isEmpty());
-        QTRY_COMPARE(fixture.requests, QStringList({QStringLiteral("1: 1 1 3, fid 5, id 6")}));
+        QTRY_COMPARE(fixture.requests, texts({"1: 1 1 3, fid 5, id 6"}));
         fixture.takeRequests();
         QCOMPARE(edits.history().count(), 2);
-        type(QStringLiteral("abc")); // and back before it rests: nothing has changed
-        type(QStringLiteral("ab"));
+        type("abc"_s); // and back before it rests: nothing has changed
+        type("ab"_s);
         edits.flush();
         QCOMPARE(edits.history().count(), 2);
         QVERIFY(fixture.requests.isEmpty());
@@ -141,50 +141,41 @@ private slots:
 
     void whatFollowsAFunction_data()
     {
-        QTest::addColumn<KeyState>("from");
-        QTest::addColumn<KeyState>("to");
-        QTest::addColumn<QVector<int>>("ids");
+        const FollowsTable row;
         const auto titled = [](KeyState &state) {
-            state.record->strTitle = QStringLiteral("x");
+            state.record->strTitle = "x"_s;
             state.record->titleFontSize = 20;
         };
         const auto address = [](KeyState &state) {
-            state.record->strAppOrUrl = QStringLiteral("http://a");
+            state.record->strAppOrUrl = "http://a"_s;
         };
         const auto steps = [](KeyState &state) {
-            state.steps = {{3, 0, QStringLiteral("a")}};
+            state.steps = {{3, 0, "a"_s}};
         };
-        QTest::newRow("a free key stays free") << KeyState() << KeyState() << QVector<int>{};
-        QTest::newRow("cleared") << stateOf(5, titled) << KeyState() << QVector<int>{13};
-        QTest::newRow("new, with the defaults") << KeyState() << stateOf(5) << QVector<int>{8, 9};
-        QTest::newRow("new, with values") << KeyState() << stateOf(5, titled) << QVector<int>{8, 9, 7, 6};
-        QTest::newRow("replaced: what the panel would keep")
-            << stateOf(5, titled) << stateOf(6) << QVector<int>{8, 9, 7, 6};
-        QTest::newRow("an address that became a text")
-            << stateOf(3, address) << stateOf(15) << QVector<int>{8, 9, 17};
-        QTest::newRow("an address that nothing follows")
-            << stateOf(3, address) << stateOf(5) << QVector<int>{8, 9, 11};
-        QTest::newRow("steps that nothing follows")
-            << stateOf(4, steps) << stateOf(5) << QVector<int>{8, 9, 15};
-        QTest::newRow("one value") << stateOf(3) << stateOf(3, address) << QVector<int>{11};
-        QTest::newRow("steps") << stateOf(4) << stateOf(4, steps) << QVector<int>{15};
-        QTest::newRow("no picture to send") << KeyState() << stateOf(11) << QVector<int>{8};
+        row("a free key stays free", KeyState(), KeyState(), QVector<int>{});
+        row("cleared", stateOf(5, titled), KeyState(), QVector<int>{13});
+        row("new, with the defaults", KeyState(), stateOf(5), QVector<int>{8, 9});
+        row("new, with values", KeyState(), stateOf(5, titled), QVector<int>{8, 9, 7, 6});
+        row("replaced: what the panel would keep", stateOf(5, titled), stateOf(6), QVector<int>{8, 9, 7, 6});
+        row("an address that became a text", stateOf(3, address), stateOf(15), QVector<int>{8, 9, 17});
+        row("an address that nothing follows", stateOf(3, address), stateOf(5), QVector<int>{8, 9, 11});
+        row("steps that nothing follows", stateOf(4, steps), stateOf(5), QVector<int>{8, 9, 15});
+        row("one value", stateOf(3), stateOf(3, address), QVector<int>{11});
+        row("steps", stateOf(4), stateOf(4, steps), QVector<int>{15});
+        row("no picture to send", KeyState(), stateOf(11), QVector<int>{8});
     }
 
     void whatFollowsAFunction()
     {
-        QFETCH(KeyState, from);
-        QFETCH(KeyState, to);
-        QFETCH(QVector<int>, ids);
+        const auto [from, to, ids] = FollowsTable::current();
         QCOMPARE(numbers(attributesToSend(from, to)), ids);
     }
 
     void whatNoAttributeTakesAway()
     {
-        const KeyState video =
-            stateOf(17, [](KeyState &state) { state.record->defaultImage = QStringLiteral("v.mp4"); });
+        const KeyState video = stateOf(17, [](KeyState &state) { state.record->defaultImage = "v.mp4"_s; });
         const auto icon = [](KeyState &state) {
-            state.record->defaultImage = QStringLiteral(":/icon");
+            state.record->defaultImage = ":/icon"_s;
         };
         QCOMPARE(numbers(attributesToRestore(video, stateOf(17, icon))), QVector<int>({13, 8, 9}));
         QCOMPARE(numbers(attributesToRestore(stateOf(5), stateOf(11))), QVector<int>({13, 8}));
@@ -196,10 +187,9 @@ private slots:
         EditorFixture fixture;
         KeyEdits &edits = fixture.editor().edits;
         const KeyState steps = stateOf(4, [](KeyState &state) { state.steps = {{3, 0, {}}}; });
-        edits.place(QStringLiteral("paste"), {{Key, steps}, {Other, steps}, {Key, stateOf(5)}});
-        QCOMPARE(
-            fixture.requests.filter(QStringLiteral(" 1 1 3,")),
-            QStringList({QStringLiteral("1: 1 1 3, fid 5, id 8"), QStringLiteral("1: 1 1 3, fid 5, id 9")}));
+        edits.place("paste"_s, {{Key, steps}, {Other, steps}, {Key, stateOf(5)}});
+        QCOMPARE(fixture.requests.filter(" 1 1 3,"_s),
+                 texts({"1: 1 1 3, fid 5, id 8", "1: 1 1 3, fid 5, id 9"}));
         QVERIFY(vorlinmodel::multiActionStore().readActionsByKeyId(1, 1, 3).isEmpty());
     }
 
@@ -219,38 +209,20 @@ private slots:
         QCOMPARE(QImage(fixture.path("devConfig/image/1_1_3.png")).pixel(1, 1), QColor(Qt::red).rgb());
         edits.redo();
         QCOMPARE(pixelOf(fixture, Key), QColor(Qt::blue).rgb());
-    }
-
-    void swappedKeysKeepTheirPicturesOnDisk()
-    {
-        EditorFixture fixture;
-        KeyEdits &edits = fixture.editor().edits;
-        for (const auto &[key, colour] : {std::pair{Key, Qt::red}, std::pair{Other, Qt::blue}}) {
-            drop(fixture, key, 5);
-            setPicture(fixture, key, pictureFile(fixture.path("source.png"), colour));
-            QVERIFY(edits.saveNow());
-        }
-        const KeyState key = captureKeyState(fixture.store, Key);
-        const KeyState other = captureKeyState(fixture.store, Other);
-        edits.place(QStringLiteral("swap"), {{Key, other}, {Other, key}});
+        edits.place("clear"_s, {{Key, {}}});
         QVERIFY(edits.saveNow());
-        fixture.restart();
-        QCOMPARE(pixelOf(fixture, Key), QColor(Qt::blue).rgb());
-        QCOMPARE(pixelOf(fixture, Other), QColor(Qt::red).rgb());
-        fixture.editor().edits.place(QStringLiteral("clear"), {{Other, {}}});
-        QVERIFY(fixture.editor().edits.saveNow());
-        QVERIFY(!QFile::exists(fixture.path("devConfig/image/1_2_4.png")));
+        QVERIFY(!QFile::exists(fixture.path("devConfig/image/1_1_3.png")));
     }
 
     void editsRestOnDisk()
     {
         EditorFixture fixture;
         drop(fixture, Key, 5);
-        setTitle(fixture, Key, QStringLiteral("标题"));
+        setTitle(fixture, Key, "标题"_s);
         QTRY_VERIFY(QFile::exists(fixture.path("devConfig/image/imageUrl.ini"))); // by itself, after the rest
-        setTitle(fixture, Key, QStringLiteral("later"));                          // and at the end
+        setTitle(fixture, Key, "later"_s);                                        // and at the end
         fixture.restart();
-        QCOMPARE(fixture.store.getTitleText(Key), QStringLiteral("later"));
+        QCOMPARE(fixture.store.getTitleText(Key), "later"_s);
     }
 
     void editsWithoutAPanelAreSentWhenItComes()
@@ -287,7 +259,7 @@ private slots:
         drop(fixture, Key, 5);
         QTRY_VERIFY(edits.pending().keys().isEmpty());
         fakeHid().setWriteResult(-1);
-        setTitle(fixture, Key, QStringLiteral("t"));
+        setTitle(fixture, Key, "t"_s);
         QTRY_COMPARE(int(edits.pending().mark(Key)), int(PendingEdits::Mark::Failed));
         fakeHid().setWriteResult(std::nullopt);
         edits.sendPending();
@@ -297,20 +269,16 @@ private slots:
 
     void whatAMarkOutlives_data()
     {
-        QTest::addColumn<int>("refused");
-        QTest::addColumn<int>("taken");
-        QTest::addColumn<bool>("stays");
-        QTest::newRow("another value") << 6 << 7 << true;
-        QTest::newRow("the picture, under its other id") << 9 << 5 << false;
-        QTest::newRow("the key was cleared") << 5 << 13 << false;
+        const MarkTable row;
+        row("another value", 6, 7, true);
+        row("the picture, under its other id", 9, 5, false);
+        row("the key was cleared", 5, 13, false);
     }
 
     void whatAMarkOutlives()
     {
+        const auto [refused, taken, stays] = MarkTable::current();
         using vorlinmodel::RequestOutcome;
-        QFETCH(int, refused);
-        QFETCH(int, taken);
-        QFETCH(bool, stays);
         PendingEdits pending;
         const auto post = [&](int id, RequestOutcome outcome) {
             pending.posted(Key, AttributeId(id));
@@ -330,15 +298,12 @@ private slots:
     {
         EditorFixture fixture;
         fixture.store.createKeyAttribute(Key, vorlinmodel::TEXT_OUTPUT_FID);
-        QFile file(fixture.path("devConfig/pending.ini"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("[pending]\n1_1_3=11\n999_1_3=8\n1_17_3=8\n1_1_16=8\n1_1_4=4 16 99\n");
-        file.close();
+        QVERIFY(writeTestFile(fixture.path("devConfig/pending.ini"),
+                              "[pending]\n1_1_3=11\n999_1_3=8\n1_17_3=8\n1_1_16=8\n1_1_4=4 16 99\n"));
         fixture.editor()
             .edits.sendPending(); // an address, on a key that puts out a text by now: all is sent anew
-        QCOMPARE(fixture.takeRequests(), QStringList({QStringLiteral("1: 1 1 3, fid 15, id 13"),
-                                                      QStringLiteral("1: 1 1 3, fid 15, id 8"),
-                                                      QStringLiteral("1: 1 1 3, fid 15, id 9")}));
+        QCOMPARE(fixture.takeRequests(),
+                 texts({"1: 1 1 3, fid 15, id 13", "1: 1 1 3, fid 15, id 8", "1: 1 1 3, fid 15, id 9"}));
     }
 
     void aPanelThatComesDuringAReadGetsItAfterwards()
@@ -353,8 +318,7 @@ private slots:
         edits.sendPending(); // the store holds what the panel shows, not what the person wants
         QVERIFY(fixture.requests.isEmpty());
         edits.endRead(false, {Key});
-        QCOMPARE(fixture.takeRequests().mid(1), QStringList({QStringLiteral("1: 1 1 3, fid 5, id 8"),
-                                                             QStringLiteral("1: 1 1 3, fid 5, id 9")}));
+        QCOMPARE(fixture.takeRequests().mid(1), texts({"1: 1 1 3, fid 5, id 8", "1: 1 1 3, fid 5, id 9"}));
     }
 
     void aReadThatEndsEarlyLosesNoPicture()
@@ -378,7 +342,7 @@ private slots:
         EditorFixture fixture(Panel::Absent);
         KeyEdits &edits = fixture.editor().edits;
         drop(fixture, Key, vorlinmodel::MULTIPLE_ACTIONS_FID);
-        edits.change(QStringLiteral("steps"), {Key}, [] {
+        edits.change("steps"_s, {Key}, [] {
             QString error;
             vorlinmodel::multiActionStore().writeActionsByKeyId(1, 1, 3, {{100, 7, {}}}, error);
         });
@@ -407,9 +371,9 @@ private slots:
         EditorFixture fixture;
         KeyEdits &edits = fixture.editor().edits;
         fixture.store.createKeyAttribute(Other, 16);
-        fixture.store.setUrlOrPath(Other, QStringLiteral("Left Ctrl#C"));
+        fixture.store.setUrlOrPath(Other, "Left Ctrl#C"_s);
         edits.beginRead();
-        fixture.store.setUrlOrPath(Other, QStringLiteral("Left Ctrl#C#undefine#undefine"));
+        fixture.store.setUrlOrPath(Other, "Left Ctrl#C#undefine#undefine"_s);
         edits.endRead(false, {});
         QVERIFY(fixture.store.getKeyAttribute(Other));
         QCOMPARE(edits.history().count(), 0); // nothing that a person would notice

@@ -1,26 +1,16 @@
 // A page of keys: where they lie, which are selected, and what the keyboard does with them.
 #include "editorfixture.h"
 #include "model/functionids.h"
+#include "support/table.h"
 #include "ui_editor/gridselection.h"
 #include "ui_editor/keyboardwidget.h"
 #include "ui_editor/keywidget.h"
-
-#include <QDrag>
-#include <QLabel>
-#include <QMenu>
 
 using vorlinmodel::key_id_t;
 
 namespace {
 
 constexpr char Layout[] = "[layout_2]\nnum=3\nname=Big\n1_bitmap=99\n2_bitmap=4\n3_bitmap=0\n";
-const QString Clicked =
-    QStringLiteral("background-color: rgb(0, 160, 255);\nborder:1px solid;\nborder-radius: "
-                   "10px;\nborder-color: rgb(0, 160, 255);");
-const QString NotClicked =
-    QStringLiteral("background-color: rgb(108, 108, 108);\nborder:1px solid;\nborder-radius: "
-                   "10px;\nborder-color: rgb(108, 108, 108);");
-
 /// A grid of layout 1 (or 2: see Layout) in a window that has the focus, with a function on the keys 1 and 2.
 struct Grid
 {
@@ -77,78 +67,52 @@ QVector<QRect> placesOf(std::initializer_list<quint32> masks)
 class GridTest : public QObject
 {
     Q_OBJECT
-private slots:
-    void descriptors()
-    {
-        KeyDescriptor descriptor(2, 1, 1, 0x63);
-        QCOMPARE(descriptor.mPhyKeyCount, 4);
-        const PhysicalSlot third = descriptor.mSlots[2];
-        QCOMPARE(QVector<int>({third.key, third.row, third.column}), QVector<int>({6, 2, 1}));
-        QCOMPARE(descriptor.mSlots[4].key, 0);
-        descriptor.setBitMap(0x4000); // what was there is cleared
-        QCOMPARE(descriptor.mPhyKeyCount, 1);
-        QCOMPARE(descriptor.mSlots[0].row * 10 + descriptor.mSlots[0].column, 35);
-        QCOMPARE(descriptor.mSlots[1].key, 0);
-        QCOMPARE(KeyDescriptor(2, 1, 1, 0).mPhyKeyCount, 0);
-    }
+    using PlacesTable = Table<quint32, QSize, QRect>;
+    using WalkingTable = Table<int, int, bool, QString>;
 
+private slots:
     void places_data()
     {
-        QTest::addColumn<quint32>("mask");
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<QRect>("place");
-        QTest::newRow("key 1") << 1U << QSize(520, 290) << QRect(0, 0, 96, 90);
-        QTest::newRow("key 15") << 0x4000U << QSize(520, 290) << QRect(424, 200, 96, 90);
-        QTest::newRow("keys 1, 2, 6, 7") << 0x63U << QSize(520, 290) << QRect(0, 0, 202, 190);
-        QTest::newRow("centred") << 0x63U << QSize(531, 300) << QRect(5, 5, 202, 190);
-        QTest::newRow("larger than the grid's area") << 1U << QSize(517, 290) << QRect(-1, 0, 96, 90);
-        QTest::newRow("no key") << 0U << QSize(520, 290) << QRect(0, 0, 0, 0);
+        const PlacesTable row;
+        row("key 1", 1U, QSize(520, 290), QRect(0, 0, 96, 90));
+        row("key 15", 0x4000U, QSize(520, 290), QRect(424, 200, 96, 90));
+        row("keys 1, 2, 6, 7", 0x63U, QSize(520, 290), QRect(0, 0, 202, 190));
+        row("centred", 0x63U, QSize(531, 300), QRect(5, 5, 202, 190));
+        row("larger than the grid's area", 1U, QSize(517, 290), QRect(-1, 0, 96, 90));
+        row("no key", 0U, QSize(520, 290), QRect(0, 0, 0, 0));
     }
 
     void places()
     {
-        QFETCH(quint32, mask);
-        QFETCH(QSize, size);
-        QTEST(cellRect(KeyDescriptor(2, 1, 1, mask), GridMetrics{}, size), "place");
-    }
-
-    void keysGrowWithTheWindow_data()
-    {
-        QTest::addColumn<QSize>("area");
-        QTest::addColumn<QVector<int>>("metrics"); // spacing, width, height
-        QTest::newRow("basic") << QSize(520, 290) << QVector<int>{10, 96, 90};
-        QTest::newRow("a pixel too low") << QSize(520, 289) << QVector<int>{9, 95, 89};
-        QTest::newRow("twice") << QSize(1040, 2000) << QVector<int>{20, 192, 180};
-        QTest::newRow("too small") << QSize(10, 10) << QVector<int>{4, 40, 37};
+        const auto [mask, size, place] = PlacesTable::current();
+        QCOMPARE(cellRect(KeyDescriptor(2, 1, 1, mask), GridMetrics{}, size), place);
     }
 
     void keysGrowWithTheWindow()
     {
-        QFETCH(QSize, area);
-        const GridMetrics metrics = GridMetrics::fitting(area);
-        QTEST((QVector<int>{metrics.spacing, metrics.cellWidth, metrics.cellHeight}), "metrics");
+        const auto metrics = [](int width, int height) {
+            const GridMetrics fitting = GridMetrics::fitting({width, height});
+            return QVector<int>{fitting.spacing, fitting.cellWidth, fitting.cellHeight};
+        };
+        QCOMPARE(metrics(520, 290), QVector<int>({10, 96, 90}));
+        QCOMPARE(metrics(520, 289), QVector<int>({9, 95, 89})); // a pixel too low
+        QCOMPARE(metrics(1040, 2000), QVector<int>({20, 192, 180}));
+        QCOMPARE(metrics(10, 10), QVector<int>({4, 40, 37}));
     }
 
     void standardGrid()
     {
         Grid test;
         QCOMPARE(test.grid->cells().size(), 15);
-        for (int i = 0; i < 15; ++i) {
-            QCOMPARE(test.grid->cells().at(i)->keyId().kid, i + 1);
-            QCOMPARE(test.grid->cells().at(i)->descriptor().mBitMap, 1U << i);
-        }
-        QCOMPARE(test.fixture.log.count("KeyboardWidget::setup  LayoutId:1 pageid:1"), 1);
-        QCOMPARE(test.grid->cell(2)->fid(), 6);
         test.show();
+        QCOMPARE(test.grid->cell(2)->fid(), 6);
         QCOMPARE(test.grid->cell(2)->geometry(), QRect(106, 0, 96, 90));
         QCOMPARE(test.grid->cell(2)->findChild<QLabel *>()->geometry(), QRect(3, 3, 90, 84));
         test.grid->setVisible(false);
         QVERIFY(test.grid->cell(2)->isHidden());
         test.grid->rebuild(2); // another layout has no cells until it is set up
         QVERIFY(test.grid->cells().isEmpty());
-        QVERIFY(test.grid->isVisible());
         test.grid->rebuild(1);
-        QCOMPARE(test.grid->cells().size(), 15);
         QVERIFY(test.grid->cell(15)->isVisible());
     }
 
@@ -156,16 +120,15 @@ private slots:
     {
         Grid test(2);
         QCOMPARE(test.grid->cells().size(), 3);
-        QCOMPARE(test.fixture.log.matching("--layoutid[2]--").size(), 2);
         QCOMPARE(test.fixture.log.count("------nNum/strName=3/Big"), 1);
         test.show();
         QCOMPARE(test.grid->cell(1)->geometry(), QRect(0, 0, 202, 190));
         QVERIFY(!test.grid->cell(3)->acceptDrops()); // covers nothing
         test.click(2);
         test.press(Qt::Key_Tab);
-        QCOMPARE(test.selected(), QStringLiteral("1"));
+        QCOMPARE(test.selected(), "1"_s);
         test.grid->selectAll();
-        QCOMPARE(test.selected(), QStringLiteral("1 2"));
+        QCOMPARE(test.selected(), "1 2"_s);
 
         KeyboardWidget missing(test.fixture.editor(), 3, 1, nullptr);
         QVERIFY(missing.setup(true, true));
@@ -174,51 +137,31 @@ private slots:
         QVERIFY(!missing.selectByRect({0, 0, 1000, 1000}));
     }
 
-    void selectByRect_data()
-    {
-        QTest::addColumn<QRect>("rect");
-        QTest::addColumn<QVector<int>>("selected");
-        QTest::newRow("inside one key") << QRect(300, 50, 5, 5) << QVector<int>{2};
-        QTest::newRow("corner of the merged key") << QRect(201, 189, 5, 5) << QVector<int>{1};
-        QTest::newRow("grown over its neighbour") << QRect(201, 189, 12, 5) << QVector<int>{1, 2};
-        QTest::newRow("beside all") << QRect(400, 200, 50, 50) << QVector<int>{};
-    }
-
     void selectByRect()
     {
-        QFETCH(QRect, rect);
         Grid test(2);
         test.show();
-        const bool last = test.grid->selectByRect(rect);
-        QVector<int> selected;
-        for (const KeyWidget *cell : test.grid->cells()) {
-            if (cell->isSelected())
-                selected.append(cell->keyId().kid);
-        }
-        QTEST(selected, "selected");
-        QVERIFY(!last); // key 3 has no place
-    }
-
-    void updateKeyIcon_data()
-    {
-        QTest::addColumn<int>("kid");
-        QTest::addColumn<int>("refreshed");
-        QTest::newRow("one") << 3 << 1;
-        QTest::newRow("all") << 10000 << 15;
-        QTest::newRow("none") << 16 << 0;
+        const auto selected = [&test](const QRect &rect) {
+            const bool last = test.grid->selectByRect(rect); // key 3 has no place
+            return last ? "the last one"_s : test.selected();
+        };
+        QCOMPARE(selected({300, 50, 5, 5}), "2"_s);
+        QCOMPARE(selected({201, 189, 5, 5}), "1"_s);    // the corner of the merged key
+        QCOMPARE(selected({201, 189, 12, 5}), "1 2"_s); // grown over its neighbour
+        QCOMPARE(selected({400, 200, 50, 50}), QString());
     }
 
     void updateKeyIcon()
     {
-        QFETCH(int, kid);
-        QFETCH(int, refreshed);
         Grid test;
         test.fixture.store.createKeyAttribute({1, 1, 3}, 5); // behind the editor's back
-        test.grid->updateKeyIcon({1, 1, kid});
-        QCOMPARE(test.fixture.log.matching("4 --updateKeyIcon--------[1][1]").size(), refreshed);
-        QCOMPARE(test.grid->cell(3)->fid(), refreshed ? 5 : 0);
-        QCOMPARE(test.grid->cell(3)->findChild<QLabel *>()->pixmap(Qt::ReturnByValue).isNull(),
-                 refreshed == 0);
+        for (const auto &[kid, refreshed] : {std::pair{16, 0}, {3, 1}, {10000, 16}}) { // none, one, all 15
+            test.grid->updateKeyIcon({1, 1, kid});
+            QCOMPARE(test.fixture.log.matching("4 --updateKeyIcon--------[1][1]").size(), refreshed);
+            QCOMPARE(test.grid->cell(3)->fid(), refreshed > 0 ? 5 : 0);
+            const QLabel *icon = test.grid->cell(3)->findChild<QLabel *>();
+            QCOMPARE(icon->pixmap(Qt::ReturnByValue).isNull(), refreshed == 0);
+        }
     }
 
     void clicks()
@@ -228,52 +171,42 @@ private slots:
         test.show();
         test.click(7);
         QCOMPARE(changed.takeFirst().at(2).toBool(), false);
-        QCOMPARE(test.fixture.log.count("KeyboardWidget::onDataChangeHandler  lid:1 kid:7  fid:0"), 1);
-        for (const KeyWidget *cell : test.grid->cells())
-            QCOMPARE(cell->styleSheet(), cell->keyId().kid == 7 ? Clicked : NotClicked);
         QVERIFY(test.grid->cell(7)->hasFocus());
         test.click(14, Qt::ShiftModifier);
-        QCOMPARE(test.selected(), QStringLiteral("7 8 9 12 13 14"));
+        QCOMPARE(test.selected(), "7 8 9 12 13 14"_s);
         test.click(8, Qt::ControlModifier);
         test.click(1, Qt::ControlModifier);
-        QCOMPARE(test.selected(), QStringLiteral("1 7 9 12 13 14"));
+        QCOMPARE(test.selected(), "1 7 9 12 13 14"_s);
         QCOMPARE(test.grid->currentKey().kid, 1);
         test.click(2);
-        QCOMPARE(test.selected(), QStringLiteral("2"));
+        QCOMPARE(test.selected(), "2"_s);
         test.click(2, Qt::ControlModifier); // the last one stays
-        QCOMPARE(test.selected(), QStringLiteral("2"));
+        QCOMPARE(test.selected(), "2"_s);
         QTest::mouseDClick(test.grid->cell(2), Qt::LeftButton);
         QCOMPARE(changed.last().at(1).toInt(), 6);
         QCOMPARE(changed.last().at(2).toBool(), true);
-        QCOMPARE(test.fixture.log.count("4 ----onButtonDoubleClicked----------"), 1);
-        QCOMPARE(test.fixture.log.count("KeyboardWidget::onButtonDoubleClicked  lid:1 kid:2  fid:6"), 1);
     }
 
     void walking_data()
     {
-        QTest::addColumn<int>("from");
-        QTest::addColumn<int>("key");
-        QTest::addColumn<bool>("shift");
-        QTest::addColumn<QString>("selected");
-        QTest::newRow("right") << 3 << int(Qt::Key_Right) << false << QStringLiteral("4");
-        QTest::newRow("right at the border") << 5 << int(Qt::Key_Right) << false << QStringLiteral("5");
-        QTest::newRow("left at the border") << 6 << int(Qt::Key_Left) << false << QStringLiteral("6");
-        QTest::newRow("down") << 3 << int(Qt::Key_Down) << false << QStringLiteral("8");
-        QTest::newRow("up, extending") << 8 << int(Qt::Key_Up) << true << QStringLiteral("3 8");
-        QTest::newRow("home") << 8 << int(Qt::Key_Home) << false << QStringLiteral("6");
-        QTest::newRow("end, extending") << 8 << int(Qt::Key_End) << true << QStringLiteral("8 9 10");
+        const WalkingTable row;
+        row("right", 3, int(Qt::Key_Right), false, "4");
+        row("right at the border", 5, int(Qt::Key_Right), false, "5");
+        row("left at the border", 6, int(Qt::Key_Left), false, "6");
+        row("down", 3, int(Qt::Key_Down), false, "8");
+        row("up, extending", 8, int(Qt::Key_Up), true, "3 8");
+        row("home", 8, int(Qt::Key_Home), false, "6");
+        row("end, extending", 8, int(Qt::Key_End), true, "8 9 10");
     }
 
     void walking()
     {
-        QFETCH(int, from);
-        QFETCH(int, key);
-        QFETCH(bool, shift);
+        const auto [from, key, shift, selected] = WalkingTable::current();
         Grid test;
         test.show();
         test.click(from);
         test.press(key, shift ? Qt::ShiftModifier : Qt::NoModifier);
-        QTEST(test.selected(), "selected");
+        QCOMPARE(test.selected(), selected);
         QVERIFY(test.grid->cell(test.grid->currentKey().kid)->hasFocus());
     }
 
@@ -309,15 +242,14 @@ private slots:
         test.press(Qt::Key_F2);
         QCOMPARE(titles.size(), 1);
         QTest::keyClick(test.grid->cell(2), Qt::Key_Tab);
-        QCOMPARE(test.selected(), QStringLiteral("3"));
+        QCOMPARE(test.selected(), "3"_s);
         test.press(Qt::Key_F2); // no title to edit
         QCOMPARE(titles.size(), 1);
         test.press(Qt::Key_A, Qt::ControlModifier);
         QCOMPARE(test.grid->selectedKeys().size(), 15);
         test.fixture.takeRequests();
         test.press(Qt::Key_Delete);
-        QCOMPARE(test.fixture.takeRequests(), QStringList({QStringLiteral("1: 1 1 1, fid 0, id 13"),
-                                                           QStringLiteral("1: 1 1 2, fid 0, id 13")}));
+        QCOMPARE(test.fixture.takeRequests(), texts({"1: 1 1 1, fid 0, id 13", "1: 1 1 2, fid 0, id 13"}));
         test.fixture.editor().edits.undo(); // of both
         QCOMPARE(test.grid->cell(1)->fid(), 5);
         QCOMPARE(test.grid->cell(2)->fid(), 6);
@@ -363,9 +295,7 @@ private slots:
     {
         Grid test;
         test.grid->deleteAll();
-        QVERIFY(test.fixture.store.getKeys().isEmpty());
-        QVERIFY(test.fixture.requests.isEmpty());
-        QCOMPARE(test.fixture.log.count("KeyWidget::deleteAttr nFid:"), 15);
+        QVERIFY(test.fixture.store.getKeys().isEmpty() && test.fixture.requests.isEmpty());
         test.fixture.editor().edits.undo();
         QCOMPARE(test.fixture.store.getKeys().size(), 2);
     }

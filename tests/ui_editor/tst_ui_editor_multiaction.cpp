@@ -2,23 +2,12 @@
 #include "editorfixture.h"
 #include "model/functionids.h"
 #include "model/multiaction.h"
+#include "support/files.h"
+#include "support/table.h"
 #include "ui_common/filedialog.h"
-#include "ui_common/messagebox.h"
 #include "ui_editor/multiactionwidget.h"
 #include "ui_editor/steprunner.h"
 #include "ui_editor/vorlinmimedata.h"
-
-#include <QApplication>
-#include <QClipboard>
-#include <QComboBox>
-#include <QDropEvent>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListView>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QToolButton>
 
 Q_DECLARE_METATYPE(vorlinmodel::MultiAction)
 
@@ -53,22 +42,6 @@ QMimeData *functionData(int fid)
     return data.release();
 }
 
-/// The boxes that came up, and what to answer.
-struct Boxes
-{
-    explicit Boxes(QMessageBox::StandardButton answer = QMessageBox::Ok)
-    {
-        MessageBox::setAnswer([this, answer](const QMessageBox &box) {
-            texts.append(box.text());
-            return answer;
-        });
-    }
-    ~Boxes() { MessageBox::setAnswer({}); }
-    Boxes(const Boxes &) = delete;
-    Boxes &operator=(const Boxes &) = delete;
-    QStringList texts;
-};
-
 struct Editor
 {
     explicit Editor(const Steps &steps = {}, Panel panel = Panel::None)
@@ -83,7 +56,7 @@ struct Editor
         widget.resize(610, 500);
         widget.open(Key, vorlinmodel::MULTIPLE_ACTIONS_FID);
         QApplication::setActiveWindow(&widget);
-        view = widget.findChild<QListView *>(QStringLiteral("steps"));
+        view = widget.findChild<QListView *>("steps"_s);
     }
 
     const Steps &steps() { return widget.steps().steps(); }
@@ -115,7 +88,7 @@ struct Editor
         QApplication::sendEvent(view->viewport(), &enter);
         QDragMoveEvent move(point, action, data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(view->viewport(), &move);
-        lineShown = view->viewport()->findChild<QWidget *>(QStringLiteral("dropLine"))->isVisible();
+        lineShown = view->viewport()->findChild<QWidget *>("dropLine"_s)->isVisible();
         QDropEvent event(point, action, data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(view->viewport(), &event);
         return enter.isAccepted() && move.isAccepted() && event.isAccepted();
@@ -127,34 +100,35 @@ struct Editor
     bool lineShown = false;
 };
 
-const Steps Three{step(5), step(3, QStringLiteral("a")), step(100, {}, 20)};
+const Steps Three{step(5), step(3, "a"_s), step(100, {}, 20)};
 
 } // namespace
 
 class MultiActionTest : public QObject
 {
     Q_OBJECT
+    using DroppedTable = Table<int, int, bool>;
+    using MovedTable = Table<QVector<int>, int, int, QString>;
+    using LimitsTable = Table<MultiAction, QString, bool>;
+    using LeavingTable = Table<int, bool, int>;
+
 private slots:
     void initTestCase() { qRegisterMetaType<StepModel::RunState>("StepModel::RunState"); }
 
     void functionsAreDropped_data()
     {
-        QTest::addColumn<int>("fid");
-        QTest::addColumn<int>("row");
-        QTest::addColumn<bool>("taken");
-        QTest::newRow("in front of the first") << 15 << 0 << true;
-        QTest::newRow("between") << 16 << 2 << true;
-        QTest::newRow("behind the last") << 100 << 3 << true;
-        QTest::newRow("another list") << 4 << 1 << false;
-        QTest::newRow("a child page") << 18 << 1 << false;
-        QTest::newRow("no function") << 0 << 1 << false;
+        const DroppedTable row;
+        row("in front of the first", 15, 0, true);
+        row("between", 16, 2, true);
+        row("behind the last", 100, 3, true);
+        row("another list", 4, 1, false);
+        row("a child page", 18, 1, false);
+        row("no function", 0, 1, false);
     }
 
     void functionsAreDropped()
     {
-        QFETCH(int, fid);
-        QFETCH(int, row);
-        QFETCH(bool, taken);
+        const auto [fid, row, taken] = DroppedTable::current();
         Editor editor(Three);
         QCOMPARE(editor.drop(functionData(fid), row), taken);
         QCOMPARE(editor.lineShown, taken);
@@ -166,25 +140,18 @@ private slots:
 
     void stepsAreMoved_data()
     {
-        QTest::addColumn<QVector<int>>("rows");
-        QTest::addColumn<int>("before");
-        QTest::addColumn<int>("action");
-        QTest::addColumn<QString>("order");
+        const MovedTable row;
         const int move = Qt::MoveAction;
-        QTest::newRow("down") << QVector<int>{0} << 3 << move << QStringLiteral("1 2 0 3");
-        QTest::newRow("up") << QVector<int>{3} << 0 << move << QStringLiteral("3 0 1 2");
-        QTest::newRow("onto itself") << QVector<int>{1} << 1 << move << QStringLiteral("0 1 2 3");
-        QTest::newRow("two that are apart") << QVector<int>{0, 3} << 2 << move << QStringLiteral("1 0 3 2");
-        QTest::newRow("copied with Ctrl")
-            << QVector<int>{0} << 4 << int(Qt::CopyAction) << QStringLiteral("0 1 2 3 0");
+        row("down", QVector<int>{0}, 3, move, "1 2 0 3");
+        row("up", QVector<int>{3}, 0, move, "3 0 1 2");
+        row("onto itself", QVector<int>{1}, 1, move, "0 1 2 3");
+        row("two that are apart", QVector<int>{0, 3}, 2, move, "1 0 3 2");
+        row("copied with Ctrl", QVector<int>{0}, 4, int(Qt::CopyAction), "0 1 2 3 0");
     }
 
     void stepsAreMoved()
     {
-        QFETCH(QVector<int>, rows);
-        QFETCH(int, before);
-        QFETCH(int, action);
-        QFETCH(QString, order);
+        const auto [rows, before, action, order] = MovedTable::current();
         Steps steps;
         for (const char *name : {"0", "1", "2", "3"})
             steps.append(step(3, QString::fromLatin1(name)));
@@ -240,31 +207,29 @@ private slots:
 
     void contentIsEditedInPlace()
     {
-        Editor editor(
-            {step(2), step(3), step(15), step(16, QStringLiteral("Left Ctrl#undefine#C#")), step(100)});
-        FileDialog::setAnswer([](const QString &) { return QStringList(QStringLiteral("/tmp/a b")); });
+        Editor editor({step(2), step(3), step(15), step(16, "Left Ctrl#undefine#C#"_s), step(100)});
+        FileDialog::setAnswer([](const QString &) { return QStringList("/tmp/a b"_s); });
         QTest::mouseClick(editor.part<QToolButton>(0, "choose"), Qt::LeftButton);
         FileDialog::setAnswer({});
-        QTest::keyClicks(editor.part<QLineEdit>(1), QStringLiteral("http://a"));
+        QTest::keyClicks(editor.part<QLineEdit>(1), "http://a"_s);
         auto *text = editor.part<QPlainTextEdit>(2);
         text->setFocus();
-        QTest::keyClicks(text, QStringLiteral("x"));
+        QTest::keyClicks(text, "x"_s);
         QTest::keyClick(text, Qt::Key_Return);
-        QTest::keyClicks(text, QStringLiteral("y"));
+        QTest::keyClicks(text, "y"_s);
         QTest::keyClick(text, Qt::Key_Return, Qt::ShiftModifier); // the same for who gets the text
         auto *keys = editor.part<QPushButton>(3);
-        QCOMPARE(keys->text(), QStringLiteral("Left Ctrl + C"));
+        QCOMPARE(keys->text(), "Left Ctrl + C"_s);
         keys->click();
-        auto *third = keys->findChild<QComboBox *>(QStringLiteral("key4"));
-        QVERIFY(third->findText(QStringLiteral("#")) < 0 && third->findText(QStringLiteral("undefine")) < 0);
-        third->setCurrentText(QStringLiteral("F5"));
-        keys->findChild<QComboBox *>(QStringLiteral("key1"))->setCurrentIndex(0);
+        auto *third = keys->findChild<QComboBox *>("key4"_s);
+        QVERIFY(third->findText("#"_s) < 0 && third->findText("undefine"_s) < 0);
+        third->setCurrentText("F5"_s);
+        keys->findChild<QComboBox *>("key1"_s)->setCurrentIndex(0);
         QCOMPARE(editor.steps(),
-                 Steps({step(2, QDir::toNativeSeparators(QStringLiteral("/tmp/a b"))),
-                        step(3, QStringLiteral("http://a")), step(15, QStringLiteral("x\ny\n")),
-                        step(16, QStringLiteral("C#F5")), step(100)}));
+                 Steps({step(2, QDir::toNativeSeparators("/tmp/a b"_s)), step(3, "http://a"_s),
+                        step(15, "x\ny\n"_s), step(16, "C#F5"_s), step(100)}));
         QTest::keyClick(text, Qt::Key_Z, Qt::ControlModifier); // the list's undo, also from within a field
-        QCOMPARE(editor.steps().at(3).url, QStringLiteral("Left Ctrl#undefine#C#"));
+        QCOMPARE(editor.steps().at(3).url, "Left Ctrl#undefine#C#"_s);
     }
 
     void stepsMayGoWhileAFileIsChosen()
@@ -273,7 +238,7 @@ private slots:
         FileDialog::setAnswer([&](const QString &) { // the panel is read
             editor.widget.steps().load({step(5)});
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            return QStringList(QStringLiteral("/tmp/a"));
+            return QStringList("/tmp/a"_s);
         });
         editor.part<QToolButton>(1, "choose")->click();
         FileDialog::setAnswer({});
@@ -292,31 +257,22 @@ private slots:
 
     void whatThePanelCannotTakeIsRefused_data()
     {
-        QTest::addColumn<MultiAction>("action");
-        QTest::addColumn<QString>("counter");
-        QTest::addColumn<bool>("fits");
+        const LimitsTable row;
         const QString umlaut(QChar(0xFC));
-        QTest::newRow("128 bytes") << step(3, QString(128, QLatin1Char('a'))) << QStringLiteral("128/128")
-                                   << true;
-        QTest::newRow("129 bytes") << step(3, QString(129, QLatin1Char('a'))) << QStringLiteral("129/128")
-                                   << false;
-        QTest::newRow("path, two bytes each")
-            << step(2, umlaut.repeated(65)) << QStringLiteral("130/128") << false;
-        QTest::newRow("64 characters of text")
-            << step(15, QString(64, QLatin1Char('a'))) << QStringLiteral("128/128") << true;
-        QTest::newRow("65 characters of text")
-            << step(15, QString(65, QLatin1Char('a'))) << QStringLiteral("130/128") << false;
-        QTest::newRow("unknown key") << step(16, QStringLiteral("A#Meta")) << QStringLiteral("!") << false;
-        QTest::newRow("five keys") << step(16, QStringLiteral("A#B#C#D#E")) << QStringLiteral("!") << false;
-        QTest::newRow("four keys") << step(16, QStringLiteral("A#B#C#D##")) << QString() << true;
-        QTest::newRow("unknown function") << step(-3, QStringLiteral("kept")) << QString() << true;
+        row("128 bytes", step(3, QString(128, QLatin1Char('a'))), "128/128", true);
+        row("129 bytes", step(3, QString(129, QLatin1Char('a'))), "129/128", false);
+        row("path, two bytes each", step(2, umlaut.repeated(65)), "130/128", false);
+        row("64 characters of text", step(15, QString(64, QLatin1Char('a'))), "128/128", true);
+        row("65 characters of text", step(15, QString(65, QLatin1Char('a'))), "130/128", false);
+        row("unknown key", step(16, "A#Meta"_s), "!", false);
+        row("five keys", step(16, "A#B#C#D#E"_s), "!", false);
+        row("four keys", step(16, "A#B#C#D##"_s), {}, true);
+        row("unknown function", step(-3, "kept"_s), {}, true);
     }
 
     void whatThePanelCannotTakeIsRefused()
     {
-        QFETCH(MultiAction, action);
-        QFETCH(QString, counter);
-        QFETCH(bool, fits);
+        const auto [action, counter, fits] = LimitsTable::current();
         Editor editor({action});
         Boxes boxes;
         const auto *label = editor.part<QLabel>(0, "counter");
@@ -325,7 +281,7 @@ private slots:
         editor.widget.addStep(5);
         QCOMPARE(editor.widget.save(), fits);
         QCOMPARE(stored(), fits ? Steps({action, step(5)}) : Steps({action}));
-        QCOMPARE(boxes.texts.join(QString()).contains(QStringLiteral("\n1. ")), !fits);
+        QCOMPARE(boxes.texts.join(QString()).contains("\n1. "_s), !fits);
         QCOMPARE(editor.fixture.requests.size(), fits ? 1 : 0);
     }
 
@@ -337,7 +293,7 @@ private slots:
         QVERIFY(editor.widget.save());
         editor.widget.addStep(5);
         QVERIFY(!editor.widget.save());
-        QVERIFY2(boxes.texts.value(0).contains(QStringLiteral("65536")), qPrintable(boxes.texts.value(0)));
+        QVERIFY2(boxes.texts.value(0).contains("65536"_s), qPrintable(boxes.texts.value(0)));
         QCOMPARE(stored().size(), 511);
     }
 
@@ -371,22 +327,18 @@ private slots:
 
     void leavingAsks_data()
     {
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<bool>("leaves");
-        QTest::addColumn<int>("inFile");
-        QTest::newRow("save") << int(QMessageBox::Save) << true << 4;
-        QTest::newRow("discard") << int(QMessageBox::Discard) << true << 3;
-        QTest::newRow("stay") << int(QMessageBox::Cancel) << false << 3;
+        const LeavingTable row; // answer; whether the editor closes, and how many steps the file holds then
+        row("save", int(QMessageBox::Save), true, 4);
+        row("discard", int(QMessageBox::Discard), true, 3);
+        row("stay", int(QMessageBox::Cancel), false, 3);
     }
 
     void leavingAsks()
     {
-        QFETCH(int, answer);
-        QFETCH(bool, leaves);
-        QFETCH(int, inFile);
+        const auto [answer, leaves, inFile] = LeavingTable::current();
         Editor editor(Three);
         QSignalSpy left(&editor.widget, &MultiActionWidget::sigBtnReturnClicked);
-        Boxes boxes{QMessageBox::StandardButton(answer)};
+        const Boxes boxes{QMessageBox::StandardButton(answer)};
         editor.widget.addStep(5);
         QTest::mouseClick(editor.button("return"), Qt::LeftButton);
         QCOMPARE(boxes.texts.size(), 1);
@@ -399,11 +351,9 @@ private slots:
     {
         Editor editor;
         const QString path = editor.fixture.path("devConfig/multiActions.json");
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("{broken") > 0);
-        file.close();
+        QVERIFY(writeTestFile(path, "{broken"));
         {
-            Boxes boxes{QMessageBox::Cancel};
+            const Boxes boxes{QMessageBox::Cancel};
             editor.widget.open(Key, vorlinmodel::MULTIPLE_ACTIONS_FID);
             QCOMPARE(boxes.texts.size(), 1);
             editor.widget.addStep(5);
@@ -413,17 +363,14 @@ private slots:
         const Boxes boxes{QMessageBox::Yes};
         QVERIFY(editor.widget.save());
         QCOMPARE(stored(), Steps({step(5)}));
-        QFile kept(path + QStringLiteral(".damaged"));
-        QVERIFY(kept.open(QIODevice::ReadOnly));
-        QCOMPARE(kept.readAll(), QByteArray("{broken"));
+        QCOMPARE(testFileContent(path + ".damaged"_s), QByteArray("{broken"));
     }
 
     void aFailedWriteSendsNothing()
     {
         Editor editor;
         QDir(editor.fixture.path("devConfig")).removeRecursively(); // as a full or vanished disk
-        QFile blocker(editor.fixture.path("devConfig"));
-        QVERIFY(blocker.open(QIODevice::WriteOnly));
+        QVERIFY(writeTestFile(editor.fixture.path("devConfig"), {}));
         const Boxes boxes;
         editor.widget.addStep(5);
         QVERIFY(!editor.widget.save());
@@ -433,11 +380,9 @@ private slots:
 
     void aTestRunsWhatTheComputerCan()
     {
-        Editor editor({step(3, QStringLiteral("http://a/")), step(6), step(100, {}, 30),
-                       step(15, QStringLiteral("t")), step(2, QStringLiteral("/f"))});
-        editor.fixture.store.setTextOutput([&](int, const QString &text) {
-            editor.fixture.desktop.calls.append(QStringLiteral("text ") + text);
-        });
+        Editor editor({step(3, "http://a/"_s), step(6), step(100, {}, 30), step(15, "t"_s), step(2, "/f"_s)});
+        editor.fixture.store.setTextOutput(
+            [&](int, const QString &text) { editor.fixture.desktop.calls.append("text "_s + text); });
         StepRunner &runner = editor.widget.runner();
         runner.setSecond(1);
         QSignalSpy countdown(&runner, &StepRunner::countdown);
@@ -448,9 +393,7 @@ private slots:
         QTRY_COMPARE(finished.count(), 1);
         QVERIFY(clock.elapsed() >= 30);
         QCOMPARE(countdown.count(), 4); // 3 2 1 0
-        QCOMPARE(editor.fixture.desktop.calls,
-                 QStringList(
-                     {QStringLiteral("url http://a/"), QStringLiteral("text t"), QStringLiteral("file /f")}));
+        QCOMPARE(editor.fixture.desktop.calls, texts({"url http://a/", "text t", "file /f"}));
         const auto state = [&](int row) {
             return editor.view->model()->index(row, 0).data(StepModel::RunStateRole).toInt();
         };
@@ -460,7 +403,7 @@ private slots:
 
     void aTestIsStopped()
     {
-        Editor editor({step(100, {}, 60000), step(3, QStringLiteral("http://a/"))});
+        Editor editor({step(100, {}, 60000), step(3, "http://a/"_s)});
         QSignalSpy state(&editor.widget.runner(), &StepRunner::stateChanged);
         QTest::mouseClick(editor.button("test"), Qt::LeftButton);
         QTRY_COMPARE(state.count(), 1);
@@ -493,7 +436,7 @@ private slots:
 
     void manyStepsHaveFieldsOnlyInView()
     {
-        Editor editor(Steps(200, step(2, QStringLiteral("/a"))));
+        Editor editor(Steps(200, step(2, "/a"_s)));
         const auto fields = [&] {
             return editor.view->viewport()->findChildren<QLineEdit *>().size();
         };
@@ -501,8 +444,8 @@ private slots:
         editor.view->scrollToBottom();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY2(fields() > 4 && fields() < 25, qPrintable(QString::number(fields())));
-        QTest::keyClicks(editor.part<QLineEdit>(199), QStringLiteral("b"));
-        QCOMPARE(editor.steps().last().url, QStringLiteral("/ab"));
+        QTest::keyClicks(editor.part<QLineEdit>(199), "b"_s);
+        QCOMPARE(editor.steps().last().url, "/ab"_s);
     }
 };
 

@@ -1,6 +1,7 @@
 /// Pictures from files and resources, read within limits.
 #pragma once
 
+#include <QIcon>
 #include <QImage>
 #include <QString>
 
@@ -9,6 +10,10 @@
 /// program most of its time.
 /// @return a null image when it is none, or has more than 4096 pixels a side.
 QImage knownPicture(const QString &path, const char *format);
+
+/// An icon from a PNG resource ":/....png", on a dense screen from the "@2x" one beside it. As knownPicture()
+/// does, it leaves the other image plugins alone, which QIcon loads even for a PNG.
+QIcon knownIcon(const QString &path);
 
 /// Reads a picture of any format, which its content decides, turned as its camera says. One that is larger
 /// than the target is made smaller while it is decoded, with @p mode as in QSize::scaled().

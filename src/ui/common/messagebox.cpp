@@ -34,11 +34,21 @@ QMessageBox::StandardButton MessageBox::warn(QWidget *parent, const QString &tex
     return run(box, {});
 }
 
+QMessageBox::StandardButton MessageBox::inform(QWidget *parent, const QString &title, const QString &text)
+{
+    QMessageBox box(QMessageBox::Information, title, text, QMessageBox::Ok, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setStyleSheet(QString::fromLatin1(Style::MessageBox));
+    return run(box, {});
+}
+
 QMessageBox::StandardButton MessageBox::question(QWidget *parent, const Question &question,
                                                  const std::function<void(QAbstractButton *)> &onClicked)
 {
     QMessageBox box(QMessageBox::Question, QCoreApplication::applicationName(), question.text,
                     question.buttons, parent);
+    if (!question.title.isEmpty())
+        box.setWindowTitle(question.title);
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(question.explanation);
     box.setDefaultButton(question.preset);

@@ -11,6 +11,9 @@ namespace MessageBox {
 /// Shows a warning with @p text over @p parent and runs until the person has closed it.
 QMessageBox::StandardButton warn(QWidget *parent, const QString &text, QSize size = {});
 
+/// Tells @p text with an OK button, under @p title, and runs until the person has closed the box.
+QMessageBox::StandardButton inform(QWidget *parent, const QString &title, const QString &text);
+
 /// What question() asks. Texts are plain.
 struct Question
 {
@@ -21,6 +24,7 @@ struct Question
     QString styleSheet = {};                               ///< the dark style when empty
     QHash<int, QString> captions =
         {}; ///< other texts for buttons, by StandardButton, in the person's language
+    QString title = {}; ///< of the box; the program's name when empty
 };
 
 /// Asks and waits for the answer; Escape and closing the box count as Cancel, or as No where there is no

@@ -10,7 +10,6 @@
 #include "model/ifunctionmanager.h"
 #include "pictureedits.h"
 #include "ui_common/filedialog.h"
-#include "ui_common/messagebox.h"
 
 #include <QDir>
 #include <QGridLayout>
@@ -209,11 +208,8 @@ void ContentEditor::chooseVideo()
     const QString filter = QStringLiteral("%1 (%2)").arg(texts.Text(Video), PictureEdits::videoPattern());
     const vorlinmodel::key_id_t key = mKey; // the panel may bring another one into view meanwhile
     const QString path = FileDialog::openFile(this, texts.Text(VideoText).trimmed(), {}, filter);
-    if (path.isEmpty())
-        return;
-    const QString problem = PictureEdits::setVideo(mContext, key, path);
-    if (!problem.isEmpty())
-        MessageBox::warn(this, problem);
+    if (!path.isEmpty())
+        mContext.videos.place(key, path);
 }
 
 void ContentEditor::onTyped(const QString &text)

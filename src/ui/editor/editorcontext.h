@@ -3,6 +3,8 @@
 
 #include "keyedits.h"
 #include "keyfaces.h"
+#include "layoutedits.h"
+#include "videoplacement.h"
 
 #include <QVector>
 #include <array>
@@ -26,12 +28,16 @@ struct EditorContext
     explicit EditorContext(vorlindesk::IFrameworkContext &context)
         : framework(context)
         , edits(context)
+        , layouts(edits)
         , faces(edits.store())
+        , videos(edits)
     {}
 
     vorlindesk::IFrameworkContext &framework;
     KeyEdits edits;
+    LayoutEdits layouts;
     KeyFaces faces;
+    VideoPlacement videos;
     bool childrenForm = false;                   ///< the page in view is a child page
     std::array<ChildPageEntry, 16> childPages{}; ///< by key id, 1 to 15
 

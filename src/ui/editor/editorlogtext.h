@@ -56,4 +56,8 @@ inline constexpr char ChildPageEntry[] = "nSelLayoutId/nSelPageId=%d %d\n";
 inline constexpr char ReturnToMain[] = "--double click---FunctionConfigWidget---RETURN_MAIN_FID---------";
 inline constexpr char ConfigurationRead[] = "-----------MD_FUNCTION_CODE_READ_CONFIGFILE-----";
 
+// A piece of a layout's background.
+inline constexpr char PieceCells[] = "------------nSelRow/nSelCol=%d/%d\n";
+inline constexpr char PiecePixels[] = "------------newWidth/newHeight=%d/%d\n";
+
 } // namespace EditorLogText

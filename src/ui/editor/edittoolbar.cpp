@@ -1,10 +1,10 @@
 #include "edittoolbar.h"
 
 #include "base/language.h"
+#include "ui_common/toolicon.h"
 
 #include <QAction>
 #include <QHBoxLayout>
-#include <QPainter>
 #include <QToolButton>
 #include <QUndoStack>
 
@@ -16,7 +16,6 @@ constexpr char ToolStyle[] = "QToolButton {background-color: transparent;border:
                              "QToolButton:pressed {background-color: rgb(0, 160, 255);}";
 constexpr QSize IconSize{20, 20};
 constexpr int ButtonSide = 28;
-constexpr qreal DisabledOpacity = 0.3;
 
 QKeySequence shortcutOf(EditToolBar::Tool tool)
 {
@@ -36,26 +35,6 @@ QKeySequence shortcutOf(EditToolBar::Tool tool)
     default:
         return {};
     }
-}
-
-/// A tool that cannot be used is hardly seen; the style's own grey is too near to white on the dark page.
-QIcon toolIcon(const char *name)
-{
-    const QString path = QStringLiteral(":/icon/edit/%1").arg(QLatin1String(name));
-    QIcon icon(path + QLatin1String(".png"));
-    for (const int ratio : {1, 2}) {
-        QImage drawn(path + QLatin1String(ratio == 1 ? ".png" : "@2x.png"));
-        drawn.setDevicePixelRatio(1); // pixel by pixel, whatever the name says
-        QPixmap faded(drawn.size());
-        faded.fill(Qt::transparent);
-        QPainter painter(&faded);
-        painter.setOpacity(DisabledOpacity);
-        painter.drawImage(QPoint(), drawn);
-        painter.end();
-        faded.setDevicePixelRatio(ratio);
-        icon.addPixmap(faded, QIcon::Disabled);
-    }
-    return icon;
 }
 
 } // namespace

@@ -15,6 +15,7 @@
 #include "multiactionwidget.h"
 #include "noticebar.h"
 #include "pagenavigation.h"
+#include "transferbar.h"
 #include "ui_common/style.h"
 
 #include <QAction>
@@ -63,6 +64,7 @@ FunctionConfigWidget::~FunctionConfigWidget()
 
 bool FunctionConfigWidget::setup()
 {
+    makeColumns();
     struct Step
     {
         bool (FunctionConfigWidget::*setup)();
@@ -90,11 +92,20 @@ bool FunctionConfigWidget::setup()
     return true;
 }
 
+/// What the parts are created in, since every later change of a parent styles all of a part anew: a third of
+/// the start.
+void FunctionConfigWidget::makeColumns()
+{
+    mpSplitter = new QSplitter(Qt::Vertical, this);
+    mpUpper = new QWidget(mpSplitter);
+    mpListColumn = new QWidget(this);
+}
+
 bool FunctionConfigWidget::setupFuncListFrame()
 {
-    mpFunctionList = new FunctionList(mContext, this);
+    mpFunctionList = new FunctionList(mContext, mpListColumn);
     mpFunctionList->installEventFilter(this);
-    mpHint = new QLabel(this);
+    mpHint = new QLabel(mpListColumn);
     mpHint->setObjectName(QStringLiteral("hint"));
     mpHint->setTextFormat(Qt::PlainText);
     mpHint->setWordWrap(true);
@@ -108,8 +119,9 @@ bool FunctionConfigWidget::setupFuncListFrame()
 bool FunctionConfigWidget::setupBtnLayoutFrame()
 {
     const vorlindesk::LanguageManager &language = *mContext.framework.languageManager();
-    mpNotice = new NoticeBar(this);
-    mpKeysView = new QWidget(this);
+    mpNotice = new NoticeBar(mpUpper);
+    mpTransfer = new TransferBar(mContext.videos, mpUpper);
+    mpKeysView = new QWidget(mpUpper);
     mpLayoutBar = new LayoutBar(mpKeysView);
     mpTools = new EditToolBar(mContext.edits.history(), language, mpKeysView);
     mpGridArea = new GridArea(mpKeysView);
@@ -128,14 +140,14 @@ bool FunctionConfigWidget::setupBtnLayoutFrame()
 
 bool FunctionConfigWidget::setupAttrFrame()
 {
-    mpAttributes = new AttributeEditor(mContext, this);
+    mpAttributes = new AttributeEditor(mContext, mpSplitter);
     connect(&mContext.edits, &KeyEdits::sigKeysChanged, this, &FunctionConfigWidget::alignSelection);
     return mpAttributes->setup();
 }
 
 bool FunctionConfigWidget::setupMultipleActionWidget()
 {
-    mpMultiActions = new MultiActionWidget(mContext, this);
+    mpMultiActions = new MultiActionWidget(mContext, mpUpper);
     mpMultiActions->hide();
     connect(mpMultiActions, &MultiActionWidget::sigBtnReturnClicked, this,
             &FunctionConfigWidget::onMultiActionWidgetHide);
@@ -157,26 +169,24 @@ void FunctionConfigWidget::arrange()
     keys->addWidget(mpGridArea, 1);
     keys->addWidget(mpNavigation);
 
-    auto *upper = new QWidget(this);
-    auto *views = new QVBoxLayout(upper);
+    auto *views = new QVBoxLayout(mpUpper);
     views->setContentsMargins(0, 0, 0, 0);
     views->setSpacing(6);
     views->addWidget(mpNotice);
+    views->addWidget(mpTransfer);
     views->addWidget(mpKeysView, 1);
     views->addWidget(mpMultiActions, 1);
-    mpSplitter = new QSplitter(Qt::Vertical, this);
     mpSplitter->setObjectName(QStringLiteral("splitter"));
     mpSplitter->setChildrenCollapsible(false);
-    mpSplitter->addWidget(upper);
+    mpSplitter->addWidget(mpUpper);
     mpSplitter->addWidget(mpAttributes);
     mpSplitter->setStretchFactor(0, 6);
     mpSplitter->setStretchFactor(1, 1);
     mpSplitter->setSizes({KeysHeight, AttributesHeight}); // of a window of 1024 x 640
 
-    auto *list = new QWidget(this);
-    list->setMinimumWidth(ListMinimum);
-    list->setMaximumWidth(ListMaximum);
-    auto *right = new QVBoxLayout(list);
+    mpListColumn->setMinimumWidth(ListMinimum);
+    mpListColumn->setMaximumWidth(ListMaximum);
+    auto *right = new QVBoxLayout(mpListColumn);
     right->setContentsMargins(0, 0, 0, 0);
     right->setSpacing(6);
     right->addWidget(mpFunctionList, 1);
@@ -185,7 +195,7 @@ void FunctionConfigWidget::arrange()
     layout->setContentsMargins(8, 8, 8, 8);
     layout->setSpacing(8);
     layout->addWidget(mpSplitter, 4);
-    layout->addWidget(list, 1);
+    layout->addWidget(mpListColumn, 1);
 }
 
 void FunctionConfigWidget::connectTools()
@@ -210,6 +220,8 @@ void FunctionConfigWidget::connectTools()
     connect(&mContext.edits, &KeyEdits::sigStepApplied, this, &FunctionConfigWidget::showStep);
     connect(&mContext.edits, &KeyEdits::sigProblem, mpNotice, &NoticeBar::notify);
     connect(mpCommands, &KeyCommands::sigNotice, mpNotice, &NoticeBar::notify);
+    connect(&mContext.videos, &VideoPlacement::sigNotice, mpNotice, &NoticeBar::notify);
+    connect(&mContext.videos, &VideoPlacement::sigProblem, mpNotice, &NoticeBar::notify);
 }
 
 void FunctionConfigWidget::connectPageKeys()
@@ -256,6 +268,7 @@ void FunctionConfigWidget::retranslate()
     mpLayoutBar->retranslate();
     mpTools->retranslate();
     mpNotice->retranslate();
+    mpTransfer->retranslate();
     mpNavigation->retranslate();
     mpFunctionList->retranslate();
     mpAttributes->retranslate();

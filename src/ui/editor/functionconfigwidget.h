@@ -21,6 +21,7 @@ class PageNavigation;
 class QAbstractButton;
 class QLabel;
 class QSplitter;
+class TransferBar;
 struct EditorContext;
 
 namespace MessageBox {
@@ -48,6 +49,7 @@ public:
     returnToMain(); ///< from a child page, as the function "return to main" does; asks about unsaved steps
     int curLayoutId() const;
     int curPageId() const;
+    vorlinmodel::key_id_t currentKey() const; ///< of the page in view; key id 0 when none is selected
     void refreshKeys();    ///< every built grid: the store was filled anew
     void rebuildLayouts(); ///< customLayout.ini was changed: frames of layouts come and go
     bool confirmLeave();   ///< asks about unsaved steps. @return false to stay
@@ -68,6 +70,8 @@ public slots:
     void onKeyBtnClicked(const vorlinmodel::key_id_t &key_id_, int fid_, bool isDouble);
     void onMultiActionWidgetHide(const vorlinmodel::key_id_t &key_id_, int mainFid);
     void onMsgBtnClicked(QAbstractButton *button);
+    /// Sets what was chosen in the gallery on the current key, as a drop does; what cannot be done is told.
+    void takeItem(const QString &picture, const QString &video);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -77,6 +81,7 @@ private:
     bool setupBtnLayoutFrame();
     bool setupAttrFrame();
     bool setupMultipleActionWidget();
+    void makeColumns();
     void arrange();
     void showOwnTexts();
     void connectTools();
@@ -124,11 +129,14 @@ private:
     LayoutBar *mpLayoutBar = nullptr;
     EditToolBar *mpTools = nullptr;
     NoticeBar *mpNotice = nullptr;
+    TransferBar *mpTransfer = nullptr;
     GridArea *mpGridArea = nullptr;
     PageNavigation *mpNavigation = nullptr;
     KeyCommands *mpCommands = nullptr;
     AttributeEditor *mpAttributes = nullptr;
     MultiActionWidget *mpMultiActions = nullptr;
     QSplitter *mpSplitter = nullptr;
+    QWidget *mpUpper = nullptr; ///< above its handle: notice, keys or steps
+    QWidget *mpListColumn = nullptr;
     QList<int> mSplitterSizes; ///< before the multi-action editor was opened
 };

@@ -2,6 +2,10 @@
 #include "functionconfigwidget.h"
 
 #include "functionlist.h"
+#include "keyboardwidget.h"
+#include "keywidget.h"
+#include "model/functionids.h"
+#include "noticebar.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
@@ -92,4 +96,16 @@ void FunctionConfigWidget::onFunctionListButtonMouseLeave()
 void FunctionConfigWidget::showHint(bool isBright)
 {
     mpHint->setStyleSheet(QString::fromLatin1(isBright ? BrightHint : DimHint));
+}
+
+void FunctionConfigWidget::takeItem(const QString &picture, const QString &video)
+{
+    const KeyboardWidget *grid = isFuncListForMultiAction ? nullptr : mpGridArea->grid();
+    KeyWidget *cell = grid ? grid->cell(grid->currentKey().kid) : nullptr;
+    if (!cell || cell->fid() == 0)
+        return mpNotice->notify(tr("Select a key that has a function first."));
+    const bool takesVideo = cell->fid() == vorlinmodel::VIDEO_FID && !video.isEmpty();
+    if (picture.isEmpty() && !takesVideo)
+        return mpNotice->notify(tr("Only keys with the function for videos play them."));
+    cell->takePicture(picture, video);
 }

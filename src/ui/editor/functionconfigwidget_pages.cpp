@@ -47,6 +47,12 @@ int FunctionConfigWidget::curPageId() const
     return mCurPageId;
 }
 
+key_id_t FunctionConfigWidget::currentKey() const
+{
+    const KeyboardWidget *grid = mpGridArea->grid();
+    return grid ? grid->currentKey() : key_id_t{};
+}
+
 /// @p frame is the current one.
 void FunctionConfigWidget::showPage(KeyboardFrame &frame, int pageId, bool send)
 {

@@ -5,6 +5,8 @@
 #include "editorcontext.h"
 #include "model/functioncatalogue.h"
 #include "model/functionids.h"
+#include "ui_common/knownpicture.h"
+#include "ui_common/searchfield.h"
 #include "ui_common/style.h"
 #include "vorlinmimedata.h"
 
@@ -129,7 +131,7 @@ void addFunctions(QListWidget &list, const EditorContext &context, const QVector
     // Room for two lines of text, which the longer names need.
     const int height = std::max(IconSize.height() + 8, 2 * list.fontMetrics().lineSpacing() + 6);
     for (const int fid : fids) {
-        auto *item = new QListWidgetItem(QIcon(functionIcon(fid)), functionName(context, fid), &list);
+        auto *item = new QListWidgetItem(knownIcon(functionIcon(fid)), functionName(context, fid), &list);
         item->setData(FidRole, fid);
         item->setToolTip(item->text().toHtmlEscaped());
         item->setSizeHint(QSize(0, height));
@@ -148,8 +150,7 @@ FunctionList::FunctionList(EditorContext &context, QWidget *parent)
 {
     setObjectName(QStringLiteral("functionList"));
     mpFilter->setObjectName(QStringLiteral("filter"));
-    mpFilter->setClearButtonEnabled(true);
-    mpFilter->addAction(QIcon(QStringLiteral(":/icon/edit/search.png")), QLineEdit::LeadingPosition);
+    makeSearchField(*mpFilter);
     mpFilter->setStyleSheet(QString::fromLatin1(Style::Fields));
     mpFilter->installEventFilter(this);
     mpList->installEventFilter(this);

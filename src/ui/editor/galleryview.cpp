@@ -1,7 +1,9 @@
 #include "galleryview.h"
 
+#include "gallerydelegate.h"
+
 #include <QDrag>
-#include <QIcon>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QScrollBar>
 
@@ -33,6 +35,18 @@ GalleryView::GalleryView(QWidget *parent)
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // a bar that comes and goes would move the columns
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setContextMenuPolicy(Qt::ActionsContextMenu);
+    setItemDelegate(new GalleryDelegate(this));
+    // Not QListView::activated, which on some desktops a single click brings about.
+    connect(this, &QListView::doubleClicked, this, &GalleryView::sigChosen);
+}
+
+void GalleryView::keyPressEvent(QKeyEvent *event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && currentIndex().isValid())
+        emit sigChosen(currentIndex());
+    else
+        QListView::keyPressEvent(event);
 }
 
 void GalleryView::startDrag(Qt::DropActions)
@@ -41,12 +55,13 @@ void GalleryView::startDrag(Qt::DropActions)
     QMimeData *picture = model()->mimeData({index});
     if (!index.isValid() || !picture)
         return;
-    const QPixmap thumbnail =
-        index.data(Qt::DecorationRole).value<QIcon>().pixmap(window()->windowHandle(), DragSize);
+    QPixmap thumbnail = index.data(Qt::DecorationRole).value<QPixmap>();
+    if (!thumbnail.isNull())
+        thumbnail = thumbnail.scaled(DragSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     auto *drag = new QDrag(this);
     drag->setMimeData(picture); // which it owns from here on
     drag->setPixmap(thumbnail);
-    drag->setHotSpot(QRect(QPoint(), thumbnail.size() / thumbnail.devicePixelRatio()).center());
+    drag->setHotSpot(QRect(QPoint(), thumbnail.size()).center());
     drag->exec(Qt::CopyAction);
 }
 

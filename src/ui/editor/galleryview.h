@@ -9,7 +9,11 @@ class GalleryView : public QListView
 public:
     explicit GalleryView(QWidget *parent);
 
+signals:
+    void sigChosen(const QModelIndex &index); ///< Enter, or a double click
+
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void startDrag(Qt::DropActions supportedActions) override;
     void resizeEvent(QResizeEvent *event) override;
 };

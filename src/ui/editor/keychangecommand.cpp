@@ -8,6 +8,13 @@ KeyChangeCommand::KeyChangeCommand(KeyEdits &edits, const QString &text, QVector
     , mChanges(std::move(changes))
 {}
 
+bool KeyChangeCommand::leads(const vorlinmodel::key_id_t &key, const KeyState &before,
+                             const KeyState &after) const
+{
+    return mChanges.size() == 1 && mChanges.first().key == key && sameKey(mChanges.first().before, before) &&
+           sameKey(mChanges.first().after, after);
+}
+
 void KeyChangeCommand::undo()
 {
     QVector<KeyPlacement> placements;

@@ -21,6 +21,9 @@ public:
     /// The change has been made already. @p edits owns the history, and outlives it.
     KeyChangeCommand(KeyEdits &edits, const QString &text, QVector<KeyChange> changes);
 
+    /// Whether the step is that of @p key alone, between these two states.
+    bool leads(const vorlinmodel::key_id_t &key, const KeyState &before, const KeyState &after) const;
+
     void undo() override;
     void redo() override; ///< the first one, which pushing makes, does nothing
 

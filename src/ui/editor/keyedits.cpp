@@ -31,6 +31,16 @@ QVector<KeyPlacement> withoutRepeats(const QVector<KeyPlacement> &placements)
     return result;
 }
 
+/// @return @p state with the video of @p other. Everything else of a step reaches the panel before its video.
+KeyState withVideoOf(const KeyState &other, KeyState state)
+{
+    if (other.record && state.record && other.fid() == state.fid())
+        state.record->defaultImage = other.record->defaultImage;
+    else
+        state.record.reset(); // a new video key: without its video it is no state of before
+    return state;
+}
+
 } // namespace
 
 QVector<key_id_t> placedKeys(const QVector<KeyPlacement> &placements)
@@ -82,6 +92,8 @@ void KeyEdits::connectProtocolThread(IProtocolThread &thread)
 void KeyEdits::requestDone(const key_id_t &key, AttributeId attribute, RequestOutcome outcome)
 {
     mPending.done(key, attribute, outcome);
+    if (attribute == AttributeId::Video)
+        videoDone(key, outcome);
     if (mPending.isOnDisk() || outcome != RequestOutcome::Sent)
         mFiles.touch();
 }
@@ -167,8 +179,11 @@ void KeyEdits::apply(const QVector<KeyPlacement> &wanted)
     writeChildPages(placements, now);
     for (const KeyPlacement &placement : placements) {
         setRecord(placement, now.value(placement.key));
-        for (const AttributeId attribute : attributesToRestore(now.value(placement.key), placement.state))
+        for (const AttributeId attribute : attributesToRestore(now.value(placement.key), placement.state)) {
+            if (attribute == AttributeId::Video)
+                noteReplacedVideo(placement.key, withVideoOf(now.value(placement.key), placement.state));
             send(placement.key, placement.state.fid(), attribute);
+        }
     }
     mFiles.touch();
 }
@@ -228,6 +243,10 @@ void KeyEdits::setRecord(const KeyPlacement &placement, const KeyState &now)
 
 void KeyEdits::send(const key_id_t &key, int fid, AttributeId attribute)
 {
+    if (mIsSilent)
+        return;
+    if (attribute == AttributeId::Video && mDepth > 0)
+        noteReplacedVideo(key, mBefore.value(key));
     mPending.posted(key, attribute);
     mContext.sendRequest(RequestKind::MD_FUNCTION_CODE_KEY_ATTRIBUTE, key.lid, key.pageid, key.kid, fid,
                          static_cast<int>(attribute));
@@ -249,5 +268,6 @@ void KeyEdits::applyStep(const QVector<KeyPlacement> &placements)
 {
     apply(placements);
     emit sigKeysChanged(placedKeys(placements));
-    emit sigStepApplied(placedKeys(placements));
+    if (!mIsSilent)
+        emit sigStepApplied(placedKeys(placements));
 }

@@ -71,7 +71,8 @@ public:
     /// Sets a key's state in store and files, and sends what differs; not a step by itself.
     void apply(const QVector<KeyPlacement> &placements);
 
-    /// Queues a key-attribute request, and keeps it in mind until the panel has taken it.
+    /// Queues a key-attribute request, and keeps it in mind until the panel has taken it. When the transfer
+    /// of a video is cancelled, the video that the panel still has comes back into the store.
     void send(const vorlinmodel::key_id_t &key, int fid, vorlinmodel::AttributeId attribute);
 
     void undo(); ///< flushes first
@@ -119,6 +120,10 @@ private:
     void writeSteps(const QVector<KeyPlacement> &placements, const States &now);
     void writeChildPages(const QVector<KeyPlacement> &placements, const States &now);
     void setRecord(const KeyPlacement &placement, const KeyState &now);
+    void noteReplacedVideo(const vorlinmodel::key_id_t &key, const KeyState &before);
+    void videoDone(const vorlinmodel::key_id_t &key, vorlinmodel::RequestOutcome outcome);
+    void takeVideoBack(const vorlinmodel::key_id_t &key, const KeyState &before);
+    bool walkHistoryBack(const vorlinmodel::key_id_t &key, const KeyState &now, const KeyState &wanted);
     void keepUntakenEdits();
     void bringPicturesBack();
     void recordRead();
@@ -132,6 +137,8 @@ private:
     int mDepth = 0; ///< of nested change() calls
     States mBefore; ///< of the outermost one
     std::optional<AtRest> mAtRest;
+    States mReplacedVideos; ///< keys before the video that the panel has not taken whole yet
+    bool mIsSilent = false; ///< the store goes back to what the panel has: nothing is sent
     QTimer mRestTimer;
     States mBeforeRead;
     bool mReading = false;

@@ -8,9 +8,11 @@
 #include "keywidget.h"
 #include "model/functionids.h"
 #include "model/ifunctionmanager.h"
+#include "model/keypicture.h"
 #include "model/multiaction.h"
+#include "pictureedits.h"
+#include "videokind.h"
 
-#include <QFile>
 #include <QPointer>
 #include <limits>
 
@@ -74,6 +76,12 @@ void KeyWidget::sendValuesThatFollow(const KeyState &before)
 
 void KeyWidget::takePicture(const QString &picture, const QString &video)
 {
+    if (mFId == vorlinmodel::VIDEO_FID && !video.isEmpty() &&
+        videoKind(video, vorlinmodel::keyPixelSize(key_id_)) == VideoKind::Foreign) {
+        mContext.videos.place(key_id_, video, picture); // which goes on when it is converted
+        Log(LogLevel::Info, EditorLogText::DropPicture, qUtf8Printable(picture));
+        return;
+    }
     mContext.edits.change(video.isEmpty() ? tr("Picture") : tr("Video"), {key_id_}, [&] {
         const bool isVideo = mFId == vorlinmodel::VIDEO_FID && !video.isEmpty();
         if (mFId != 0) {
@@ -90,18 +98,12 @@ void KeyWidget::takePicture(const QString &picture, const QString &video)
 
 void KeyWidget::setVideo(const QString &video)
 {
-    Log(LogLevel::Info, EditorLogText::DropVideo, qUtf8Printable(video));
-    QFile file(video);
-    qint64 size =
-        0; // also of a file that cannot be opened: its path is kept, and sending it says why it fails
-    if (file.open(QIODevice::ReadOnly)) {
-        size = file.size();
-        Log(LogLevel::Info, EditorLogText::DropVideoSize, qlonglong(size), qlonglong(size / 10240));
-        file.close();
-    }
+    // 0 also of a file that cannot be opened: its path is kept, and sending it says why it fails.
+    const qint64 size = PictureEdits::logVideo(video);
     if (mFId != vorlinmodel::VIDEO_FID)
         return;
     mContext.edits.store().setCustomVideo(key_id_, video);
+    mContext.videos.announce(video);
     const quint32 longest = quint32(std::numeric_limits<int>::max());
     mContext.framework.showWaitingDialog(int(vorlinmodel::RequestKind::MD_FUNCTION_CODE_KEY_ATTRIBUTE),
                                          int(std::min(videoWaitingTime(size), longest)));

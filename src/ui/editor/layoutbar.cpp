@@ -1,4 +1,5 @@
 #include "layoutbar.h"
+#include "ui_common/knownpicture.h"
 
 #include <QHBoxLayout>
 #include <QMenu>
@@ -59,7 +60,7 @@ LayoutBar::LayoutBar(QWidget *parent)
     mpArea->viewport()->installEventFilter(this);
     mpArea->setFixedHeight(ButtonHeight);
     mpAll->setObjectName(QStringLiteral("allLayouts"));
-    mpAll->setIcon(QIcon(QStringLiteral(":/icon/edit/down.png")));
+    mpAll->setIcon(knownIcon(QStringLiteral(":/icon/edit/down.png")));
     mpAll->setFixedSize(ButtonHeight, ButtonHeight);
     mpAll->setMenu(mpMenu);
     mpAll->setPopupMode(QToolButton::InstantPopup);

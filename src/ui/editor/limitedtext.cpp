@@ -75,6 +75,14 @@ void LimitedText::setLabel(const QString &text)
     field()->setAccessibleName(text.trimmed().remove(QLatin1Char(':')).remove(QChar(0xFF1A)));
 }
 
+void LimitedText::setPlaceholder(const QString &text)
+{
+    if (mpLine)
+        mpLine->setPlaceholderText(text);
+    else
+        mpParagraph->setPlaceholderText(text);
+}
+
 void LimitedText::addBeside(QWidget *widget)
 {
     mpFieldRow->addWidget(widget, 0, Qt::AlignTop);

@@ -26,7 +26,8 @@ public:
     LimitedText(Form form, TextLimit::Encoding encoding, const QString &name, QWidget *parent);
 
     void setLabel(const QString &text);
-    void addBeside(QWidget *widget); ///< right of the field, which takes it over
+    void setPlaceholder(const QString &text); ///< seen while the field is empty
+    void addBeside(QWidget *widget);          ///< right of the field, which takes it over
     /// Shows what is stored. Unless @p anew (another key or function), a value that was shown before leaves
     /// alone what the person is typing.
     void showStored(const QString &text, bool anew);

@@ -1,5 +1,7 @@
 #include "noticebar.h"
 
+#include "ui_common/knownpicture.h"
+
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -27,7 +29,7 @@ NoticeBar::NoticeBar(QWidget *parent)
     mpText->setTextFormat(Qt::PlainText);
     mpText->setWordWrap(true);
     mpClose->setObjectName(QStringLiteral("noticeClose"));
-    mpClose->setIcon(QIcon(QStringLiteral(":/icon/edit/close.png")));
+    mpClose->setIcon(knownIcon(QStringLiteral(":/icon/edit/close.png")));
     mpClose->setIconSize(QSize(16, 16));
     mTimer.setSingleShot(true);
     mTimer.setInterval(ShowTime);

@@ -95,7 +95,28 @@ void PendingEdits::done(const key_id_t &key, AttributeId attribute, RequestOutco
         return setMark(key, entry, Mark::Failed, Cause::Refused);
     case RequestOutcome::Unreadable:
         return setMark(key, entry, Mark::Failed, Cause::Unreadable);
+    case RequestOutcome::Cancelled:
+        return setMark(key, entry, Mark::Failed, Cause::Cancelled);
     }
+}
+
+void PendingEdits::withdraw(const key_id_t &key, AttributeId attribute)
+{
+    const auto found = mEntries.find(key);
+    if (found == mEntries.end())
+        return;
+    Entry &entry = found->second;
+    entry.unsent.erase(attribute);
+    if (entry.cause == Cause::Cancelled)
+        setMark(key, entry, Mark::None, Cause::None);
+    if (entry.unsent.empty() && entry.underWay.empty())
+        mEntries.erase(found);
+}
+
+bool PendingEdits::isUnderWay(const key_id_t &key, AttributeId attribute) const
+{
+    const auto entry = mEntries.find(key);
+    return entry != mEntries.end() && entry->second.underWay.count(attribute) != 0;
 }
 
 /// What the panel has refused before, and has now in another way. Requests under way were posted later: they
@@ -164,6 +185,8 @@ QString PendingEdits::reason(const key_id_t &key) const
         return tr("The panel did not take it. It is sent again at the next connection.");
     case Cause::Unreadable:
         return tr("Its picture, video or action list cannot be read, so it was not sent.");
+    case Cause::Cancelled:
+        return tr("Sending was cancelled. It is sent again at the next connection.");
     case Cause::None:
         break;
     }

@@ -36,6 +36,12 @@ public:
     /// The key has something pending, all of which is now posted anew.
     void forget(const vorlinmodel::key_id_t &key);
 
+    /// The panel need not have the attribute any more: the store is back at what the panel has.
+    void withdraw(const vorlinmodel::key_id_t &key, vorlinmodel::AttributeId attribute);
+
+    /// Requests of the attribute are in the queue, or one is carried out.
+    bool isUnderWay(const vorlinmodel::key_id_t &key, vorlinmodel::AttributeId attribute) const;
+
     /// What the person is shown. An edit that is merely under way for less than half a second has no mark.
     Mark mark(const vorlinmodel::key_id_t &key) const;
     QString reason(const vorlinmodel::key_id_t &key) const; ///< for the tool tip; empty without a mark
@@ -53,7 +59,7 @@ signals:
     void sigMarkChanged(const vorlinmodel::key_id_t &key);
 
 private:
-    enum class Cause { None, NoPanel, Late, Refused, Unreadable };
+    enum class Cause { None, NoPanel, Late, Refused, Unreadable, Cancelled };
 
     struct Entry
     {

@@ -1,9 +1,9 @@
 #include "pictureedits.h"
 
-#include "base/iframeworkcontext.h"
+#include "base/log.h"
 #include "editorcontext.h"
+#include "editorlogtext.h"
 #include "functionlist.h"
-#include "keywidget.h"
 #include "model/functionids.h"
 #include "model/ifunctionmanager.h"
 #include "model/videoconversion.h"
@@ -13,6 +13,8 @@
 #include <QFileInfo>
 #include <QImageReader>
 
+using vorlindesk::Log;
+using vorlindesk::LogLevel;
 using vorlinmodel::AttributeId;
 using vorlinmodel::key_atttribute_t;
 using vorlinmodel::key_id_t;
@@ -79,10 +81,10 @@ QString PictureEdits::setPicture(EditorContext &context, const key_id_t &key, co
     return {};
 }
 
-QString PictureEdits::setVideo(EditorContext &context, const key_id_t &key, const QString &path,
+QString PictureEdits::setVideo(KeyEdits &edits, const key_id_t &key, const QString &path,
                                const QString &picture)
 {
-    vorlinmodel::IFunctionManager &store = context.edits.store();
+    vorlinmodel::IFunctionManager &store = edits.store();
     const auto record = store.getKeyAttribute(key);
     if (!record || record->mFId != vorlinmodel::VIDEO_FID)
         return {};
@@ -90,15 +92,25 @@ QString PictureEdits::setVideo(EditorContext &context, const key_id_t &key, cons
     const QString problem = videoProblem(path, file);
     if (!problem.isEmpty())
         return problem;
-    context.edits.change(QCoreApplication::translate("PictureEdits", "Video"), {key}, [&] {
+    logVideo(path);
+    edits.change(QCoreApplication::translate("PictureEdits", "Video"), {key}, [&] {
         if (!picture.isEmpty())
             store.setCustomImage(key, picture);
         store.setCustomVideo(key, path);
-        context.framework.showWaitingDialog(int(vorlinmodel::RequestKind::MD_FUNCTION_CODE_KEY_ATTRIBUTE),
-                                            int(videoWaitingTime(file.size())));
-        context.edits.send(key, record->mFId, AttributeId::Video);
+        edits.send(key, record->mFId, AttributeId::Video);
     });
     return {};
+}
+
+qint64 PictureEdits::logVideo(const QString &path)
+{
+    Log(LogLevel::Info, EditorLogText::DropVideo, qUtf8Printable(path));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    const qint64 size = file.size();
+    Log(LogLevel::Info, EditorLogText::DropVideoSize, qlonglong(size), qlonglong(size / 10240));
+    return size;
 }
 
 bool PictureEdits::canReset(const key_atttribute_t &record)

@@ -6,6 +6,7 @@
 
 #include <QString>
 
+class KeyEdits;
 struct EditorContext;
 
 /// Each returns what went wrong, for the person; empty when it is done. Nothing is changed then, as when the
@@ -14,10 +15,13 @@ namespace PictureEdits {
 
 QString setPicture(EditorContext &context, const vorlinmodel::key_id_t &key, const QString &path);
 
-/// For a key with the video function. @p picture is shown on the screen until the first frame is known; may
-/// be empty.
-QString setVideo(EditorContext &context, const vorlinmodel::key_id_t &key, const QString &path,
+/// For a key with the video function. The video goes to the panel as it is: VideoPlacement converts others.
+/// @p picture is shown on the screen until the first frame is known; may be empty.
+QString setVideo(KeyEdits &edits, const vorlinmodel::key_id_t &key, const QString &path,
                  const QString &picture = {});
+
+/// Notes the video in the log. @return its bytes; 0 when it cannot be opened.
+qint64 logVideo(const QString &path);
 
 /// False when the key shows the icon of its function already, or its function has none.
 bool canReset(const vorlinmodel::key_atttribute_t &record);

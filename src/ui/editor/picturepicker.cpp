@@ -53,10 +53,9 @@ PicturePicker::PicturePicker(EditorContext &context, QWidget *parent)
     connect(mpReset, &QPushButton::clicked, this, [this] { PictureEdits::resetPicture(mContext, mKey); });
     connect(mpPreview, &KeyPreview::sigPictureDropped, this,
             [this](const QString &path) { report(PictureEdits::setPicture(mContext, mKey, path)); });
-    connect(mpPreview, &KeyPreview::sigVideoDropped, this,
-            [this](const QString &path, const QString &picture) {
-                report(PictureEdits::setVideo(mContext, mKey, path, picture));
-            });
+    connect(
+        mpPreview, &KeyPreview::sigVideoDropped, this,
+        [this](const QString &path, const QString &picture) { mContext.videos.place(mKey, path, picture); });
     retranslate();
 }
 
