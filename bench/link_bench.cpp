@@ -3,13 +3,12 @@
 /// drop-in's port.
 #include "app/frameworkcontext.h"
 #include "base/log.h"
+#include "benchpanel.h"
 #include "model/ifunctionmanager.h"
 #include "panel_link/panelserver.h"
 #include "protocol/iprotocolthread.h"
 
 #include <QApplication>
-#include <QBuffer>
-#include <QImage>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -28,11 +27,7 @@ using vorlinmodel::RequestKind;
 
 namespace {
 
-constexpr int Pages = 16;
-constexpr int Keys = 15;
-constexpr int PictureBytes = 10 * 1024;
 constexpr int Presses = 300;
-constexpr int MediaKey = 5; // a function that the computer has nothing to do for
 constexpr auto Patience = 120s;
 
 /// Notes when fixed log lines were written.
@@ -76,35 +71,6 @@ private:
     std::atomic<bool> mTransferred = false;
 };
 
-/// @return a PNG of noise of about @p bytes, since noise cannot be packed.
-QByteArray noisePicture(int bytes)
-{
-    constexpr int width = 90;
-    const int height = std::max(1, bytes / (width * 3));
-    QImage image(width, height, QImage::Format_RGB888);
-    for (int y = 0; y < height; ++y)
-        std::generate_n(image.scanLine(y), width * 3,
-                        [] { return static_cast<uchar>(QRandomGenerator::global()->bounded(256)); });
-    QByteArray png;
-    QBuffer buffer(&png);
-    image.save(&buffer, "PNG");
-    return png;
-}
-
-PanelState fullPanel()
-{
-    PanelState state;
-    for (int page = 1; page <= Pages; ++page) {
-        for (int key = 1; key <= Keys; ++key) {
-            const PanelKeyId id{StandardLayout, page, key};
-            PanelKey filled = newPanelKey(id, MediaKey);
-            filled.picture = noisePicture(PictureBytes);
-            state.keys.insert(id, filled);
-        }
-    }
-    return state;
-}
-
 template <typename Condition>
 bool waitFor(Condition condition)
 {
@@ -116,8 +82,8 @@ bool waitFor(Condition condition)
 
 void measureRead(PanelServer &server, LineWatch &watch)
 {
-    if (!waitFor([&] { return watch.pictures() == Pages * Keys; }))
-        std::printf("read-back: only %d of %d pictures came\n", watch.pictures(), Pages * Keys);
+    if (!waitFor([&] { return watch.pictures() == BenchPanel::KeyCount; }))
+        std::printf("read-back: only %d of %d pictures came\n", watch.pictures(), BenchPanel::KeyCount);
     const ReportSender::Burst burst = server.lastBurst();
     const double sending = double(burst.duration.count()) / 1000.0;
     qsizetype violations = 0;
@@ -155,7 +121,7 @@ void measurePresses(PanelServer &server, vorlinmodel::IProtocolThread &thread)
 
 void measureTransfer(vorlindesk::FrameworkContext &context, LineWatch &watch)
 {
-    context.sendRequest(RequestKind::MD_FUNCTION_CODE_KEY_ATTRIBUTE, 1, 1, 1, MediaKey,
+    context.sendRequest(RequestKind::MD_FUNCTION_CODE_KEY_ATTRIBUTE, 1, 1, 1, BenchPanel::MediaKey,
                         static_cast<int>(AttributeId::Picture));
     waitFor([&] { return watch.transferred(); });
     const double ideal = 2.0 * watch.blocks();
@@ -170,7 +136,7 @@ int main(int argc, char *argv[])
     LinkOptions options;
     options.port = static_cast<std::uint16_t>(qEnvironmentVariableIntValue("VIRTUAL_PANEL_PORT"));
     PanelServer server(options);
-    server.withModel([](PanelModel &model) { model.setState(fullPanel()); });
+    server.withModel([](PanelModel &model) { model.setState(BenchPanel::full()); });
     const QTemporaryDir folder;
     LineWatch watch;
     vorlindesk::FrameworkContext context;

@@ -25,6 +25,84 @@
     </message>
 </context>
 <context>
+    <name>BackgroundBox</name>
+    <message>
+        <source>The picture could not be written. Is the disk full?</source>
+        <translation>The picture could not be written. Is the disk full?</translation>
+    </message>
+    <message>
+        <source>Pages: %1</source>
+        <translation>Pages: %1</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Background:</source>
+        <translation>Background:</translation>
+    </message>
+    <message>
+        <source>Choose a picture…</source>
+        <translation>Choose a picture…</translation>
+    </message>
+    <message>
+        <source>A picture that spreads over all keys</source>
+        <translation>A picture that spreads over all keys</translation>
+    </message>
+    <message>
+        <source>Remove the background</source>
+        <translation>Remove the background</translation>
+    </message>
+    <message>
+        <source>The pages on which the keys show it</source>
+        <translation>The pages on which the keys show it</translation>
+    </message>
+    <message>
+        <source>Also on keys without a function</source>
+        <translation>Also on keys without a function</translation>
+    </message>
+    <message>
+        <source>Such a key shows its part of the picture, and does nothing when it is pressed</source>
+        <translation>Such a key shows its part of the picture, and does nothing when it is pressed</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>Backup</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>&quot;%1&quot; cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>&quot;%1&quot; could not be written: %2</translation>
+    </message>
+    <message>
+        <source>The backup in &quot;%1&quot; reads back differently from what was written. It was removed: the disk may be failing.</source>
+        <translation>The backup in &quot;%1&quot; reads back differently from what was written. It was removed: the disk may be failing.</translation>
+    </message>
+    <message>
+        <source>Parts of the backup &quot;%1&quot; are damaged. Nothing was changed.</source>
+        <translation>Parts of the backup &quot;%1&quot; are damaged. Nothing was changed.</translation>
+    </message>
+    <message>
+        <source>The backup &quot;%1&quot; holds nothing that can be restored.</source>
+        <translation>The backup &quot;%1&quot; holds nothing that can be restored.</translation>
+    </message>
+    <message>
+        <source>An earlier restore could not be finished. Its files are in &quot;%1&quot;. Start the program again, and it will be tried again.</source>
+        <translation>An earlier restore could not be finished. Its files are in &quot;%1&quot;. Start the program again, and it will be tried again.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be replaced: %2 Nothing was changed.</source>
+        <translation>&quot;%1&quot; could not be replaced: %2 Nothing was changed.</translation>
+    </message>
+</context>
+<context>
     <name>ColourButton</name>
     <message>
         <source>White</source>
@@ -209,6 +287,33 @@
     </message>
 </context>
 <context>
+    <name>CropPanel</name>
+    <message>
+        <source>Zoom:</source>
+        <translation>Zoom:</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>Smaller</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>Larger</translation>
+    </message>
+    <message>
+        <source>Part of the picture that is used</source>
+        <translation>Part of the picture that is used</translation>
+    </message>
+    <message>
+        <source>Drag the picture or use the arrow keys to move it. The wheel, + and - zoom.</source>
+        <translation>Drag the picture or use the arrow keys to move it. The wheel, + and - zoom.</translation>
+    </message>
+</context>
+<context>
     <name>EditToolBar</name>
     <message>
         <source>Undo: %1</source>
@@ -253,6 +358,14 @@
         <source>Layout</source>
         <translation>Layout</translation>
     </message>
+    <message>
+        <source>Select a key that has a function first.</source>
+        <translation>Select a key that has a function first.</translation>
+    </message>
+    <message>
+        <source>Only keys with the function for videos play them.</source>
+        <translation>Only keys with the function for videos play them.</translation>
+    </message>
 </context>
 <context>
     <name>FunctionList</name>
@@ -268,41 +381,199 @@
 <context>
     <name>GalleryFrame</name>
     <message>
-        <source>Delete &quot;%1&quot; from the gallery?</source>
-        <translation>Delete &quot;%1&quot; from the gallery?</translation>
-    </message>
-    <message>
-        <source>Delete %1 pictures from the gallery?</source>
-        <translation>Delete %1 pictures from the gallery?</translation>
-    </message>
-    <message>
-        <source>Could not be deleted:
-%1</source>
-        <translation>Could not be deleted:
-%1</translation>
-    </message>
-    <message>
-        <source>Add pictures...</source>
-        <translation>Add pictures...</translation>
-    </message>
-    <message>
-        <source>There are no pictures yet. Add some with the button below, or drop picture files here. Then drag them from here onto the keys.</source>
-        <translation>There are no pictures yet. Add some with the button below, or drop picture files here. Then drag them from here onto the keys.</translation>
-    </message>
-    <message>
         <source>Keys keep the pictures that they show.</source>
         <translation>Keys keep the pictures that they show.</translation>
+    </message>
+    <message>
+        <source>Could not be deleted:</source>
+        <translation>Could not be deleted:</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>Nothing found.</translation>
+    </message>
+    <message>
+        <source>There is nothing here yet. Add pictures and videos with the button above, or drop or paste files or a folder here. Then drag them from here onto the keys.</source>
+        <translation>There is nothing here yet. Add pictures and videos with the button above, or drop or paste files or a folder here. Then drag them from here onto the keys.</translation>
+    </message>
+    <message>
+        <source>... and %1 more.</source>
+        <translation>... and %1 more.</translation>
+    </message>
+    <message>
+        <source>Add...</source>
+        <translation>Add...</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>Videos are shown without a picture: the program ffmpeg is missing.</source>
+        <translation>Videos are shown without a picture: the program ffmpeg is missing.</translation>
+    </message>
+    <message>
+        <source>Add pictures and videos</source>
+        <translation>Add pictures and videos</translation>
+    </message>
+    <message>
+        <source>Pasted picture</source>
+        <translation>Pasted picture</translation>
+    </message>
+    <message>
+        <source>Delete %1 pictures and videos from the gallery?</source>
+        <translation>Delete %1 pictures and videos from the gallery?</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryModel</name>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 pixels</translation>
     </message>
 </context>
 <context>
     <name>GalleryPictures</name>
     <message>
-        <source>%1 is larger than 32 MiB.</source>
-        <translation>%1 is larger than 32 MiB.</translation>
+        <source>Only the first %1 files were looked at.</source>
+        <translation>Only the first %1 files were looked at.</translation>
     </message>
     <message>
-        <source>%1 is no picture that can be read.</source>
-        <translation>%1 is no picture that can be read.</translation>
+        <source>&quot;%1&quot; is larger than 32 MiB.</source>
+        <translation>&quot;%1&quot; is larger than 32 MiB.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no picture or video that can be read.</source>
+        <translation>&quot;%1&quot; is no picture or video that can be read.</translation>
+    </message>
+    <message>
+        <source>There are no pictures or videos in this folder.</source>
+        <translation>There are no pictures or videos in this folder.</translation>
+    </message>
+    <message>
+        <source>This picture cannot be added.</source>
+        <translation>This picture cannot be added.</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryTools</name>
+    <message>
+        <source>Search</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>All</translation>
+    </message>
+</context>
+<context>
+    <name>HIDUpgradeDialog</name>
+    <message>
+        <source>Choose the file first.</source>
+        <translation>Choose the file first.</translation>
+    </message>
+    <message>
+        <source>The configuration was saved in %1</source>
+        <translation>The configuration was saved in %1</translation>
+    </message>
+    <message>
+        <source>The configuration could not be saved. Upgrade all the same?</source>
+        <translation>The configuration could not be saved. Upgrade all the same?</translation>
+    </message>
+    <message>
+        <source>What the panel holds may be lost if the upgrade fails.</source>
+        <translation>What the panel holds may be lost if the upgrade fails.</translation>
+    </message>
+    <message>
+        <source>The time must be a number of milliseconds from 0 to %1.</source>
+        <translation>The time must be a number of milliseconds from 0 to %1.</translation>
+    </message>
+    <message>
+        <source>HID path of the panel</source>
+        <translation>HID path of the panel</translation>
+    </message>
+    <message>
+        <source>Milliseconds between two blocks</source>
+        <translation>Milliseconds between two blocks</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>The file does not exist.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>The file is empty.</translation>
+    </message>
+    <message>
+        <source>The file is too large: %L1 bytes. The panel takes at most %L2 bytes.</source>
+        <translation>The file is too large: %L1 bytes. The panel takes at most %L2 bytes.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read to its end. %1</source>
+        <translation>The file cannot be read to its end. %1</translation>
+    </message>
+    <message>
+        <source>No file is chosen.</source>
+        <translation>No file is chosen.</translation>
+    </message>
+    <message>
+        <source>The file is being read.</source>
+        <translation>The file is being read.</translation>
+    </message>
+    <message>
+        <source>%L1 bytes, CRC-16 0x%2</source>
+        <translation>%L1 bytes, CRC-16 0x%2</translation>
+    </message>
+    <message>
+        <source>Keep the panel plugged in until the upgrade has ended.</source>
+        <translation>Keep the panel plugged in until the upgrade has ended.</translation>
+    </message>
+    <message>
+        <source>The file is checked and the configuration is saved.</source>
+        <translation>The file is checked and the configuration is saved.</translation>
+    </message>
+    <message>
+        <source>The file is checked.</source>
+        <translation>The file is checked.</translation>
+    </message>
+    <message>
+        <source>Waiting for the panel. The upgrade starts as soon as it answers; close this window to give up.</source>
+        <translation>Waiting for the panel. The upgrade starts as soon as it answers; close this window to give up.</translation>
+    </message>
+    <message>
+        <source>The panel does not answer. If this lasts, pull its plug. </source>
+        <translation>The panel does not answer. If this lasts, pull its plug. </translation>
+    </message>
+    <message>
+        <source>The upgrade runs. Do not unplug the panel.</source>
+        <translation>The upgrade runs. Do not unplug the panel.</translation>
+    </message>
+    <message>
+        <source>The upgrade is done. The panel restarts by itself.</source>
+        <translation>The upgrade is done. The panel restarts by itself.</translation>
+    </message>
+    <message>
+        <source>The panel received something else than the file. </source>
+        <translation>The panel received something else than the file. </translation>
+    </message>
+    <message>
+        <source>The upgrade did not come to its end. </source>
+        <translation>The upgrade did not come to its end. </translation>
+    </message>
+    <message>
+        <source>Power the panel off and on, choose the file again and start the upgrade once more.</source>
+        <translation>Power the panel off and on, choose the file again and start the upgrade once more.</translation>
+    </message>
+    <message>
+        <source>Your configuration is saved in %1</source>
+        <translation>Your configuration is saved in %1</translation>
     </message>
 </context>
 <context>
@@ -416,6 +687,10 @@
         <source>Read from the panel</source>
         <translation>Read from the panel</translation>
     </message>
+    <message>
+        <source>Cancel the video</source>
+        <translation>Cancel the video</translation>
+    </message>
 </context>
 <context>
     <name>KeyWidget</name>
@@ -493,18 +768,277 @@
     </message>
 </context>
 <context>
+    <name>LayoutDraft</name>
+    <message>
+        <source>Title</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>Pages of the background</source>
+        <translation>Pages of the background</translation>
+    </message>
+    <message>
+        <source>Background on keys without a function</source>
+        <translation>Background on keys without a function</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutEdits</name>
+    <message>
+        <source>There is no room for another layout.</source>
+        <translation>There is no room for another layout.</translation>
+    </message>
+    <message>
+        <source>There are %1 layouts already.</source>
+        <translation>There are %1 layouts already.</translation>
+    </message>
+    <message>
+        <source>Change the layout</source>
+        <translation>Change the layout</translation>
+    </message>
+    <message>
+        <source>New layout</source>
+        <translation>New layout</translation>
+    </message>
+    <message>
+        <source>The layout does not exist any more.</source>
+        <translation>The layout does not exist any more.</translation>
+    </message>
+    <message>
+        <source>Delete the layout</source>
+        <translation>Delete the layout</translation>
+    </message>
+    <message>
+        <source>Duplicate the layout</source>
+        <translation>Duplicate the layout</translation>
+    </message>
+    <message>
+        <source>The pictures of the background could not be saved. Is the disk full?</source>
+        <translation>The pictures of the background could not be saved. Is the disk full?</translation>
+    </message>
+    <message>
+        <source>The layout could not be saved. Is the disk full?</source>
+        <translation>The layout could not be saved. Is the disk full?</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a picture that can be read.</source>
+        <translation>&quot;%1&quot; is not a picture that can be read.</translation>
+    </message>
+    <message>
+        <source>The picture could not be saved. Is the disk full?</source>
+        <translation>The picture could not be saved. Is the disk full?</translation>
+    </message>
+    <message>
+        <source>Background of the layout</source>
+        <translation>Background of the layout</translation>
+    </message>
+    <message>
+        <source>The layouts could not be kept aside, so those of this computer stay.</source>
+        <translation>The layouts could not be kept aside, so those of this computer stay.</translation>
+    </message>
+    <message>
+        <source>The panel sent layout %1 with keys that are no rectangles or overlap. It was left out.</source>
+        <translation>The panel sent layout %1 with keys that are no rectangles or overlap. It was left out.</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutGrid</name>
+    <message>
+        <source>Key %1 of %2, selected: %3</source>
+        <translation>Key %1 of %2, selected: %3</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutList</name>
+    <message>
+        <source>Keys: %1</source>
+        <translation>Keys: %1</translation>
+    </message>
+    <message>
+        <source>Not saved yet</source>
+        <translation>Not saved yet</translation>
+    </message>
+    <message>
+        <source>Not on the panel yet</source>
+        <translation>Not on the panel yet</translation>
+    </message>
+    <message>
+        <source>Home layout of the panel</source>
+        <translation>Home layout of the panel</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplicate</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Layouts</translation>
+    </message>
+</context>
+<context>
     <name>LayoutPage</name>
     <message>
         <source>Show in the editor</source>
         <translation>Show in the editor</translation>
     </message>
     <message>
-        <source>Keys: %1</source>
-        <translation>Keys: %1</translation>
-    </message>
-    <message>
         <source>Layout %1</source>
         <translation>Layout %1</translation>
+    </message>
+    <message>
+        <source>Remove the background</source>
+        <translation>Remove the background</translation>
+    </message>
+    <message>
+        <source>Use as home layout</source>
+        <translation>Use as home layout</translation>
+    </message>
+    <message>
+        <source>Keys of the layout</source>
+        <translation>Keys of the layout</translation>
+    </message>
+    <message>
+        <source>Save the changes to the layout &quot;%1&quot;?</source>
+        <translation>Save the changes to the layout &quot;%1&quot;?</translation>
+    </message>
+    <message>
+        <source>What is not saved is lost.</source>
+        <translation>What is not saved is lost.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Discard</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>%1 (copy)</source>
+        <translation>%1 (copy)</translation>
+    </message>
+    <message>
+        <source>Delete the layout &quot;%1&quot;?</source>
+        <translation>Delete the layout &quot;%1&quot;?</translation>
+    </message>
+    <message>
+        <source>None of its keys has a function.</source>
+        <translation>None of its keys has a function.</translation>
+    </message>
+    <message>
+        <source>Keys with a function that go with it, on all pages: %1</source>
+        <translation>Keys with a function that go with it, on all pages: %1</translation>
+    </message>
+    <message>
+        <source>Merge</source>
+        <translation>Merge</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Split</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Background</translation>
+    </message>
+    <message>
+        <source>The title cannot be saved as it is: see the mark below it.</source>
+        <translation>The title cannot be saved as it is: see the mark below it.</translation>
+    </message>
+    <message>
+        <source>Save the layout</source>
+        <translation>Save the layout</translation>
+    </message>
+    <message>
+        <source>And %1 more</source>
+        <translation>And %1 more</translation>
+    </message>
+    <message>
+        <source>These keys lose their functions, since they become part of others:</source>
+        <translation>These keys lose their functions, since they become part of others:</translation>
+    </message>
+    <message>
+        <source>Page %1, key %2: %3</source>
+        <translation>Page %1, key %2: %3</translation>
+    </message>
+    <message>
+        <source>Keys: %1, page %2</source>
+        <translation>Keys: %1, page %2</translation>
+    </message>
+    <message>
+        <source>Undo: %1</source>
+        <translation>Undo: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>Redo: %1</source>
+        <translation>Redo: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>The panel is not connected.</source>
+        <translation>The panel is not connected.</translation>
+    </message>
+    <message>
+        <source>The layout is not saved yet.</source>
+        <translation>The layout is not saved yet.</translation>
+    </message>
+    <message>
+        <source>It is the home layout.</source>
+        <translation>It is the home layout.</translation>
+    </message>
+    <message>
+        <source>The panel shows it after its start</source>
+        <translation>The panel shows it after its start</translation>
+    </message>
+    <message>
+        <source>Some layouts in the file cannot be used as they are. Nothing of the file is lost.</source>
+        <translation>Some layouts in the file cannot be used as they are. Nothing of the file is lost.</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutTools</name>
+    <message>
+        <source>Starting point</source>
+        <translation>Starting point</translation>
+    </message>
+    <message>
+        <source>Merge</source>
+        <translation>Merge</translation>
+    </message>
+    <message>
+        <source>Makes one key of those that are selected (Enter)</source>
+        <translation>Makes one key of those that are selected (Enter)</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Split</translation>
+    </message>
+    <message>
+        <source>Makes single keys of the selected ones (Delete, or double click)</source>
+        <translation>Makes single keys of the selected ones (Delete, or double click)</translation>
+    </message>
+    <message>
+        <source>Back to 15 single keys</source>
+        <translation>Back to 15 single keys</translation>
+    </message>
+    <message>
+        <source>Starting points</source>
+        <translation>Starting points</translation>
+    </message>
+    <message>
+        <source>Begin with another grouping</source>
+        <translation>Begin with another grouping</translation>
+    </message>
+    <message>
+        <source>%1 keys</source>
+        <translation>%1 keys</translation>
     </message>
 </context>
 <context>
@@ -532,6 +1066,17 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MainFrame</name>
+    <message>
+        <source>Switch</source>
+        <translation>Switch</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
     </message>
 </context>
 <context>
@@ -667,6 +1212,17 @@
     </message>
 </context>
 <context>
+    <name>PagesMenu</name>
+    <message>
+        <source>All pages with keys</source>
+        <translation>All pages with keys</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>Page %1</translation>
+    </message>
+</context>
+<context>
     <name>PendingEdits</name>
     <message>
         <source>Waits for the panel</source>
@@ -683,6 +1239,10 @@
     <message>
         <source>Its picture, video or action list cannot be read, so it was not sent.</source>
         <translation>Its picture, video or action list cannot be read, so it was not sent.</translation>
+    </message>
+    <message>
+        <source>Sending was cancelled. It is sent again at the next connection.</source>
+        <translation>Sending was cancelled. It is sent again at the next connection.</translation>
     </message>
 </context>
 <context>
@@ -728,18 +1288,167 @@
     </message>
 </context>
 <context>
-    <name>PictureUploadPage</name>
+    <name>PictureUploadJob</name>
     <message>
-        <source>This file is no picture that can be read.</source>
-        <translation>This file is no picture that can be read.</translation>
+        <source>Converting...</source>
+        <translation>Converting...</translation>
     </message>
+    <message>
+        <source>The picture cannot be kept: the disk may be full. %1</source>
+        <translation>The picture cannot be kept: the disk may be full. %1</translation>
+    </message>
+    <message>
+        <source>The key has no function any more.</source>
+        <translation>The key has no function any more.</translation>
+    </message>
+    <message>
+        <source>Sending to the panel...</source>
+        <translation>Sending to the panel...</translation>
+    </message>
+</context>
+<context>
+    <name>PictureUploadOptions</name>
+    <message>
+        <source>On the key, %1 x %2 pixels:</source>
+        <translation>On the key, %1 x %2 pixels:</translation>
+    </message>
+    <message>
+        <source>%1, %2 x %3 pixels</source>
+        <translation>%1, %2 x %3 pixels</translation>
+    </message>
+    <message>
+        <source>One key</source>
+        <translation>One key</translation>
+    </message>
+    <message>
+        <source>Fill the key</source>
+        <translation>Fill the key</translation>
+    </message>
+    <message>
+        <source>Show the whole video</source>
+        <translation>Show the whole video</translation>
+    </message>
+    <message>
+        <source>Show the whole picture</source>
+        <translation>Show the whole picture</translation>
+    </message>
+    <message>
+        <source>Stretch to the key</source>
+        <translation>Stretch to the key</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Picture</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Use as:</source>
+        <translation>Use as:</translation>
+    </message>
+    <message>
+        <source>Shape:</source>
+        <translation>Shape:</translation>
+    </message>
+    <message>
+        <source>Fit:</source>
+        <translation>Fit:</translation>
+    </message>
+    <message>
+        <source>Leave out what does not fit</source>
+        <translation>Leave out what does not fit</translation>
+    </message>
+</context>
+<context>
+    <name>PictureUploadPage</name>
     <message>
         <source>The picture is in the gallery.</source>
         <translation>The picture is in the gallery.</translation>
     </message>
     <message>
-        <source>On a key:</source>
-        <translation>On a key:</translation>
+        <source>Pasted picture</source>
+        <translation>Pasted picture</translation>
+    </message>
+    <message>
+        <source>The picture cannot be taken over: the disk may be full.</source>
+        <translation>The picture cannot be taken over: the disk may be full.</translation>
+    </message>
+    <message>
+        <source>Reading the file...</source>
+        <translation>Reading the file...</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels</source>
+        <translation>%1 x %2 pixels</translation>
+    </message>
+    <message>
+        <source>Used: %1 x %2</source>
+        <translation>Used: %1 x %2</translation>
+    </message>
+    <message>
+        <source>Fewer than the key has: it will look soft.</source>
+        <translation>Fewer than the key has: it will look soft.</translation>
+    </message>
+    <message>
+        <source>Choose the shape of the selected key to set it there.</source>
+        <translation>Choose the shape of the selected key to set it there.</translation>
+    </message>
+    <message>
+        <source>Set on the selected key</source>
+        <translation>Set on the selected key</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Drop a picture or a video here, paste one, or choose a file.</source>
+        <translation>Drop a picture or a video here, paste one, or choose a file.</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was changed.</source>
+        <translation>Cancelled. Nothing was changed.</translation>
+    </message>
+    <message>
+        <source>The video is on the key: %1.</source>
+        <translation>The video is on the key: %1.</translation>
+    </message>
+    <message>
+        <source>The picture is on the key: %1.</source>
+        <translation>The picture is on the key: %1.</translation>
+    </message>
+    <message>
+        <source>The video is in the gallery; its end did not fit.</source>
+        <translation>The video is in the gallery; its end did not fit.</translation>
+    </message>
+    <message>
+        <source>The video is in the gallery.</source>
+        <translation>The video is in the gallery.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureUploadVideo</name>
+    <message>
+        <source>%1 x %2 pixels</source>
+        <translation>%1 x %2 pixels</translation>
+    </message>
+    <message>
+        <source>On the key: %1, at most %2 frames a second and %3 MB</source>
+        <translation>On the key: %1, at most %2 frames a second and %3 MB</translation>
+    </message>
+    <message>
+        <source>Maybe too long: about %1 fit.</source>
+        <translation>Maybe too long: about %1 fit.</translation>
+    </message>
+    <message>
+        <source>Install vorlindesk again, or copy the program ffmpeg to this place.</source>
+        <translation>Install vorlindesk again, or copy the program ffmpeg to this place.</translation>
+    </message>
+    <message>
+        <source>Tick &quot;Leave out what does not fit&quot; to use its beginning.</source>
+        <translation>Tick &quot;Leave out what does not fit&quot; to use its beginning.</translation>
     </message>
 </context>
 <context>
@@ -981,6 +1690,10 @@
         <source>not known yet</source>
         <translation>not known yet</translation>
     </message>
+    <message>
+        <source>The panel is not connected.</source>
+        <translation>The panel is not connected.</translation>
+    </message>
 </context>
 <context>
     <name>TitleEditor</name>
@@ -1023,6 +1736,156 @@
     <message>
         <source>Title alignment</source>
         <translation>Title alignment</translation>
+    </message>
+</context>
+<context>
+    <name>TransferBar</name>
+    <message>
+        <source>1 more waits</source>
+        <translation>1 more waits</translation>
+    </message>
+    <message>
+        <source>%1 more wait</source>
+        <translation>%1 more wait</translation>
+    </message>
+    <message>
+        <source>Cancel the video for key %1</source>
+        <translation>Cancel the video for key %1</translation>
+    </message>
+    <message>
+        <source>Converting %1 ... %2 %</source>
+        <translation>Converting %1 ... %2 %</translation>
+    </message>
+    <message>
+        <source>Sending to key %1 ...</source>
+        <translation>Sending to key %1 ...</translation>
+    </message>
+    <message>
+        <source>Sending to key %1 ... %2 of %3 blocks</source>
+        <translation>Sending to key %1 ... %2 of %3 blocks</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeProgress</name>
+    <message>
+        <source>Block %1 of %2</source>
+        <translation>Block %1 of %2</translation>
+    </message>
+    <message>
+        <source>Elapsed: %1</source>
+        <translation>Elapsed: %1</translation>
+    </message>
+    <message>
+        <source>Remaining: about %1</source>
+        <translation>Remaining: about %1</translation>
+    </message>
+</context>
+<context>
+    <name>VideoFiles</name>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>about a second</source>
+        <translation>about a second</translation>
+    </message>
+    <message>
+        <source>about %1 seconds</source>
+        <translation>about %1 seconds</translation>
+    </message>
+    <message>
+        <source>about %1 minutes</source>
+        <translation>about %1 minutes</translation>
+    </message>
+    <message>
+        <source>%1: %2 of at most %3, %4</source>
+        <translation>%1: %2 of at most %3, %4</translation>
+    </message>
+    <message>
+        <source>%1: %2 of at most %3</source>
+        <translation>%1: %2 of at most %3</translation>
+    </message>
+</context>
+<context>
+    <name>VideoPlacement</name>
+    <message>
+        <source>Key %1 does not play videos.</source>
+        <translation>Key %1 does not play videos.</translation>
+    </message>
+    <message>
+        <source>Should the video end there, so that it fits?</source>
+        <translation>Should the video end there, so that it fits?</translation>
+    </message>
+    <message>
+        <source>Cut the video</source>
+        <translation>Cut the video</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be sent whole. It is sent again at the next connection.</source>
+        <translation>&quot;%1&quot; could not be sent whole. It is sent again at the next connection.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read, so it was not sent.</source>
+        <translation>&quot;%1&quot; cannot be read, so it was not sent.</translation>
+    </message>
+    <message>
+        <source>Its end was left out.</source>
+        <translation>Its end was left out.</translation>
+    </message>
+</context>
+<context>
+    <name>vorlinmodel</name>
+    <message>
+        <source>Group &quot;%1&quot; is left out: layouts have the numbers 2 to 255.</source>
+        <translation>Group &quot;%1&quot; is left out: layouts have the numbers 2 to 255.</translation>
+    </message>
+</context>
+<context>
+    <name>vorlinmodel::GroupReader</name>
+    <message>
+        <source>Layout %1: %2.</source>
+        <translation>Layout %1: %2.</translation>
+    </message>
+    <message>
+        <source>Layout %1 (%2): %3.</source>
+        <translation>Layout %1 (%2): %3.</translation>
+    </message>
+    <message>
+        <source>the number of its keys is missing</source>
+        <translation>the number of its keys is missing</translation>
+    </message>
+    <message>
+        <source>the number of its keys is &quot;%1&quot;, not 1 to 15</source>
+        <translation>the number of its keys is &quot;%1&quot;, not 1 to 15</translation>
+    </message>
+    <message>
+        <source>key %1 does not name its physical keys, so those of its bitmap count</source>
+        <translation>key %1 does not name its physical keys, so those of its bitmap count</translation>
+    </message>
+    <message>
+        <source>the physical keys of key %1 differ from its bitmap</source>
+        <translation>the physical keys of key %1 differ from its bitmap</translation>
+    </message>
+    <message>
+        <source>key %1 has no bitmap</source>
+        <translation>key %1 has no bitmap</translation>
+    </message>
+    <message>
+        <source>the physical keys of key %1 form no rectangle</source>
+        <translation>the physical keys of key %1 form no rectangle</translation>
+    </message>
+    <message>
+        <source>key %1 overlaps key %2</source>
+        <translation>key %1 overlaps key %2</translation>
     </message>
 </context>
 </TS>

@@ -25,6 +25,84 @@
     </message>
 </context>
 <context>
+    <name>BackgroundBox</name>
+    <message>
+        <source>The picture could not be written. Is the disk full?</source>
+        <translation>无法写入图片。磁盘是否已满？</translation>
+    </message>
+    <message>
+        <source>Pages: %1</source>
+        <translation>页面：%1</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>Background:</source>
+        <translation>背景：</translation>
+    </message>
+    <message>
+        <source>Choose a picture…</source>
+        <translation>选择图片…</translation>
+    </message>
+    <message>
+        <source>A picture that spreads over all keys</source>
+        <translation>铺满所有按键的图片</translation>
+    </message>
+    <message>
+        <source>Remove the background</source>
+        <translation>移除背景</translation>
+    </message>
+    <message>
+        <source>The pages on which the keys show it</source>
+        <translation>按键显示背景的页面</translation>
+    </message>
+    <message>
+        <source>Also on keys without a function</source>
+        <translation>也用于没有功能的按键</translation>
+    </message>
+    <message>
+        <source>Such a key shows its part of the picture, and does nothing when it is pressed</source>
+        <translation>此类按键显示图片中属于它的部分，按下时不执行任何操作</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>Backup</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取“%1”：%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>无法写入“%1”：%2</translation>
+    </message>
+    <message>
+        <source>The backup in &quot;%1&quot; reads back differently from what was written. It was removed: the disk may be failing.</source>
+        <translation>“%1”中的备份读回后与写入的内容不一致，已将其移除：磁盘可能有故障。</translation>
+    </message>
+    <message>
+        <source>Parts of the backup &quot;%1&quot; are damaged. Nothing was changed.</source>
+        <translation>备份“%1”的部分内容已损坏。未作任何更改。</translation>
+    </message>
+    <message>
+        <source>The backup &quot;%1&quot; holds nothing that can be restored.</source>
+        <translation>备份“%1”中没有可恢复的内容。</translation>
+    </message>
+    <message>
+        <source>An earlier restore could not be finished. Its files are in &quot;%1&quot;. Start the program again, and it will be tried again.</source>
+        <translation>之前的恢复未能完成，其文件位于“%1”。请重新启动本程序，届时将再次尝试。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be replaced: %2 Nothing was changed.</source>
+        <translation>无法替换“%1”：%2 未作任何更改。</translation>
+    </message>
+</context>
+<context>
     <name>ColourButton</name>
     <message>
         <source>White</source>
@@ -209,6 +287,33 @@
     </message>
 </context>
 <context>
+    <name>CropPanel</name>
+    <message>
+        <source>Zoom:</source>
+        <translation>缩放：</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Part of the picture that is used</source>
+        <translation>图片中使用的部分</translation>
+    </message>
+    <message>
+        <source>Drag the picture or use the arrow keys to move it. The wheel, + and - zoom.</source>
+        <translation>拖动图片或使用方向键可移动图片，使用滚轮、+ 和 - 可缩放。</translation>
+    </message>
+</context>
+<context>
     <name>EditToolBar</name>
     <message>
         <source>Undo: %1</source>
@@ -253,6 +358,14 @@
         <source>Layout</source>
         <translation>布局</translation>
     </message>
+    <message>
+        <source>Select a key that has a function first.</source>
+        <translation>请先选择一个有功能的按键。</translation>
+    </message>
+    <message>
+        <source>Only keys with the function for videos play them.</source>
+        <translation>只有设为视频功能的按键才能播放视频。</translation>
+    </message>
 </context>
 <context>
     <name>FunctionList</name>
@@ -268,41 +381,199 @@
 <context>
     <name>GalleryFrame</name>
     <message>
-        <source>Delete &quot;%1&quot; from the gallery?</source>
-        <translation>要从图库中删除“%1”吗？</translation>
-    </message>
-    <message>
-        <source>Delete %1 pictures from the gallery?</source>
-        <translation>要从图库中删除 %1 张图片吗？</translation>
-    </message>
-    <message>
-        <source>Could not be deleted:
-%1</source>
-        <translation>无法删除：
-%1</translation>
-    </message>
-    <message>
-        <source>Add pictures...</source>
-        <translation>添加图片...</translation>
-    </message>
-    <message>
-        <source>There are no pictures yet. Add some with the button below, or drop picture files here. Then drag them from here onto the keys.</source>
-        <translation>还没有图片。请用下面的按钮添加，或将图片文件拖到此处，然后再从此处拖到按键上。</translation>
-    </message>
-    <message>
         <source>Keys keep the pictures that they show.</source>
         <translation>按键会保留其显示的图片。</translation>
+    </message>
+    <message>
+        <source>Could not be deleted:</source>
+        <translation>无法删除：</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>未找到任何内容。</translation>
+    </message>
+    <message>
+        <source>There is nothing here yet. Add pictures and videos with the button above, or drop or paste files or a folder here. Then drag them from here onto the keys.</source>
+        <translation>这里还没有内容。请用上方的按钮添加图片和视频，或将文件或文件夹拖放或粘贴到此处，然后从这里将其拖到按键上。</translation>
+    </message>
+    <message>
+        <source>... and %1 more.</source>
+        <translation>... 以及另外 %1 个。</translation>
+    </message>
+    <message>
+        <source>Add...</source>
+        <translation>添加...</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Videos are shown without a picture: the program ffmpeg is missing.</source>
+        <translation>视频无法显示画面：缺少程序 ffmpeg。</translation>
+    </message>
+    <message>
+        <source>Add pictures and videos</source>
+        <translation>添加图片和视频</translation>
+    </message>
+    <message>
+        <source>Pasted picture</source>
+        <translation>粘贴的图片</translation>
+    </message>
+    <message>
+        <source>Delete %1 pictures and videos from the gallery?</source>
+        <translation>要从图库中删除 %1 个图片和视频吗？</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryModel</name>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 像素</translation>
     </message>
 </context>
 <context>
     <name>GalleryPictures</name>
     <message>
-        <source>%1 is larger than 32 MiB.</source>
-        <translation>%1 大于 32 MiB。</translation>
+        <source>Only the first %1 files were looked at.</source>
+        <translation>仅查看了前 %1 个文件。</translation>
     </message>
     <message>
-        <source>%1 is no picture that can be read.</source>
-        <translation>%1 不是可读取的图片。</translation>
+        <source>&quot;%1&quot; is larger than 32 MiB.</source>
+        <translation>“%1”大于 32 MiB。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no picture or video that can be read.</source>
+        <translation>“%1”不是可读取的图片或视频。</translation>
+    </message>
+    <message>
+        <source>There are no pictures or videos in this folder.</source>
+        <translation>此文件夹中没有图片或视频。</translation>
+    </message>
+    <message>
+        <source>This picture cannot be added.</source>
+        <translation>无法添加此图片。</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryTools</name>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+</context>
+<context>
+    <name>HIDUpgradeDialog</name>
+    <message>
+        <source>Choose the file first.</source>
+        <translation>请先选择文件。</translation>
+    </message>
+    <message>
+        <source>The configuration was saved in %1</source>
+        <translation>配置已保存到 %1</translation>
+    </message>
+    <message>
+        <source>The configuration could not be saved. Upgrade all the same?</source>
+        <translation>无法保存配置。仍要升级吗？</translation>
+    </message>
+    <message>
+        <source>What the panel holds may be lost if the upgrade fails.</source>
+        <translation>如果升级失败，面板中的内容可能会丢失。</translation>
+    </message>
+    <message>
+        <source>The time must be a number of milliseconds from 0 to %1.</source>
+        <translation>时间必须是 0 到 %1 之间的毫秒数。</translation>
+    </message>
+    <message>
+        <source>HID path of the panel</source>
+        <translation>面板的 HID 路径</translation>
+    </message>
+    <message>
+        <source>Milliseconds between two blocks</source>
+        <translation>两个数据块之间的毫秒数</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>文件不存在。</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>文件为空。</translation>
+    </message>
+    <message>
+        <source>The file is too large: %L1 bytes. The panel takes at most %L2 bytes.</source>
+        <translation>文件太大：%L1 字节。面板最多接受 %L2 字节。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read to its end. %1</source>
+        <translation>文件无法完整读取。%1</translation>
+    </message>
+    <message>
+        <source>No file is chosen.</source>
+        <translation>未选择文件。</translation>
+    </message>
+    <message>
+        <source>The file is being read.</source>
+        <translation>正在读取文件。</translation>
+    </message>
+    <message>
+        <source>%L1 bytes, CRC-16 0x%2</source>
+        <translation>%L1 字节，CRC-16 0x%2</translation>
+    </message>
+    <message>
+        <source>Keep the panel plugged in until the upgrade has ended.</source>
+        <translation>升级结束前请勿拔下面板。</translation>
+    </message>
+    <message>
+        <source>The file is checked and the configuration is saved.</source>
+        <translation>正在检查文件并保存配置。</translation>
+    </message>
+    <message>
+        <source>The file is checked.</source>
+        <translation>正在检查文件。</translation>
+    </message>
+    <message>
+        <source>Waiting for the panel. The upgrade starts as soon as it answers; close this window to give up.</source>
+        <translation>正在等待面板。面板一响应即开始升级；如要放弃，请关闭此窗口。</translation>
+    </message>
+    <message>
+        <source>The panel does not answer. If this lasts, pull its plug. </source>
+        <translation>面板没有响应。如果一直如此，请拔下面板。 </translation>
+    </message>
+    <message>
+        <source>The upgrade runs. Do not unplug the panel.</source>
+        <translation>正在升级，请勿拔下面板。</translation>
+    </message>
+    <message>
+        <source>The upgrade is done. The panel restarts by itself.</source>
+        <translation>升级已完成。面板将自动重启。</translation>
+    </message>
+    <message>
+        <source>The panel received something else than the file. </source>
+        <translation>面板收到的内容与文件不一致。 </translation>
+    </message>
+    <message>
+        <source>The upgrade did not come to its end. </source>
+        <translation>升级未能完成。 </translation>
+    </message>
+    <message>
+        <source>Power the panel off and on, choose the file again and start the upgrade once more.</source>
+        <translation>请将面板断电后重新通电，重新选择文件并再次开始升级。</translation>
+    </message>
+    <message>
+        <source>Your configuration is saved in %1</source>
+        <translation>您的配置已保存在 %1</translation>
     </message>
 </context>
 <context>
@@ -416,6 +687,10 @@
         <source>Read from the panel</source>
         <translation>从面板读取</translation>
     </message>
+    <message>
+        <source>Cancel the video</source>
+        <translation>取消视频</translation>
+    </message>
 </context>
 <context>
     <name>KeyWidget</name>
@@ -493,18 +768,277 @@
     </message>
 </context>
 <context>
+    <name>LayoutDraft</name>
+    <message>
+        <source>Title</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>Pages of the background</source>
+        <translation>背景的页面</translation>
+    </message>
+    <message>
+        <source>Background on keys without a function</source>
+        <translation>无功能按键的背景</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutEdits</name>
+    <message>
+        <source>There is no room for another layout.</source>
+        <translation>没有空间容纳更多布局。</translation>
+    </message>
+    <message>
+        <source>There are %1 layouts already.</source>
+        <translation>已有 %1 个布局。</translation>
+    </message>
+    <message>
+        <source>Change the layout</source>
+        <translation>更改布局</translation>
+    </message>
+    <message>
+        <source>New layout</source>
+        <translation>新建布局</translation>
+    </message>
+    <message>
+        <source>The layout does not exist any more.</source>
+        <translation>该布局已不存在。</translation>
+    </message>
+    <message>
+        <source>Delete the layout</source>
+        <translation>删除布局</translation>
+    </message>
+    <message>
+        <source>Duplicate the layout</source>
+        <translation>创建布局副本</translation>
+    </message>
+    <message>
+        <source>The pictures of the background could not be saved. Is the disk full?</source>
+        <translation>无法保存背景的图片。磁盘是否已满？</translation>
+    </message>
+    <message>
+        <source>The layout could not be saved. Is the disk full?</source>
+        <translation>无法保存布局。磁盘是否已满？</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a picture that can be read.</source>
+        <translation>“%1”不是可读取的图片。</translation>
+    </message>
+    <message>
+        <source>The picture could not be saved. Is the disk full?</source>
+        <translation>无法保存图片。磁盘是否已满？</translation>
+    </message>
+    <message>
+        <source>Background of the layout</source>
+        <translation>布局的背景</translation>
+    </message>
+    <message>
+        <source>The layouts could not be kept aside, so those of this computer stay.</source>
+        <translation>无法另行保留布局，因此这台电脑上的布局保持不变。</translation>
+    </message>
+    <message>
+        <source>The panel sent layout %1 with keys that are no rectangles or overlap. It was left out.</source>
+        <translation>面板发来的布局 %1 含有非矩形或重叠的按键，已忽略该布局。</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutGrid</name>
+    <message>
+        <source>Key %1 of %2, selected: %3</source>
+        <translation>第 %1 个按键，共 %2 个，已选择：%3</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutList</name>
+    <message>
+        <source>Keys: %1</source>
+        <translation>按键数：%1</translation>
+    </message>
+    <message>
+        <source>Not saved yet</source>
+        <translation>尚未保存</translation>
+    </message>
+    <message>
+        <source>Not on the panel yet</source>
+        <translation>尚未发送到面板</translation>
+    </message>
+    <message>
+        <source>Home layout of the panel</source>
+        <translation>面板的首页布局</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>创建副本</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>布局</translation>
+    </message>
+</context>
+<context>
     <name>LayoutPage</name>
     <message>
         <source>Show in the editor</source>
         <translation>在编辑器中显示</translation>
     </message>
     <message>
-        <source>Keys: %1</source>
-        <translation>按键数：%1</translation>
-    </message>
-    <message>
         <source>Layout %1</source>
         <translation>布局 %1</translation>
+    </message>
+    <message>
+        <source>Remove the background</source>
+        <translation>移除背景</translation>
+    </message>
+    <message>
+        <source>Use as home layout</source>
+        <translation>用作首页布局</translation>
+    </message>
+    <message>
+        <source>Keys of the layout</source>
+        <translation>布局的按键</translation>
+    </message>
+    <message>
+        <source>Save the changes to the layout &quot;%1&quot;?</source>
+        <translation>要保存对布局“%1”的更改吗？</translation>
+    </message>
+    <message>
+        <source>What is not saved is lost.</source>
+        <translation>未保存的内容将会丢失。</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>放弃</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>%1 (copy)</source>
+        <translation>%1（副本）</translation>
+    </message>
+    <message>
+        <source>Delete the layout &quot;%1&quot;?</source>
+        <translation>要删除布局“%1”吗？</translation>
+    </message>
+    <message>
+        <source>None of its keys has a function.</source>
+        <translation>其按键均未设置功能。</translation>
+    </message>
+    <message>
+        <source>Keys with a function that go with it, on all pages: %1</source>
+        <translation>所有页面上将一并删除的有功能的按键数：%1</translation>
+    </message>
+    <message>
+        <source>Merge</source>
+        <translation>合并</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>拆分</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>背景</translation>
+    </message>
+    <message>
+        <source>The title cannot be saved as it is: see the mark below it.</source>
+        <translation>标题无法按原样保存：请查看其下方的提示。</translation>
+    </message>
+    <message>
+        <source>Save the layout</source>
+        <translation>保存布局</translation>
+    </message>
+    <message>
+        <source>And %1 more</source>
+        <translation>以及另外 %1 个</translation>
+    </message>
+    <message>
+        <source>These keys lose their functions, since they become part of others:</source>
+        <translation>以下按键将并入其他按键，因此会失去功能：</translation>
+    </message>
+    <message>
+        <source>Page %1, key %2: %3</source>
+        <translation>第 %1 页，按键 %2：%3</translation>
+    </message>
+    <message>
+        <source>Keys: %1, page %2</source>
+        <translation>按键数：%1，第 %2 页</translation>
+    </message>
+    <message>
+        <source>Undo: %1</source>
+        <translation>撤销：%1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Redo: %1</source>
+        <translation>重做：%1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>The panel is not connected.</source>
+        <translation>面板未连接。</translation>
+    </message>
+    <message>
+        <source>The layout is not saved yet.</source>
+        <translation>该布局尚未保存。</translation>
+    </message>
+    <message>
+        <source>It is the home layout.</source>
+        <translation>它已是首页布局。</translation>
+    </message>
+    <message>
+        <source>The panel shows it after its start</source>
+        <translation>面板启动后显示此布局</translation>
+    </message>
+    <message>
+        <source>Some layouts in the file cannot be used as they are. Nothing of the file is lost.</source>
+        <translation>文件中的某些布局无法按原样使用。文件内容不会丢失。</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutTools</name>
+    <message>
+        <source>Starting point</source>
+        <translation>起始方案</translation>
+    </message>
+    <message>
+        <source>Merge</source>
+        <translation>合并</translation>
+    </message>
+    <message>
+        <source>Makes one key of those that are selected (Enter)</source>
+        <translation>将所选按键合并为一个按键（Enter）</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>拆分</translation>
+    </message>
+    <message>
+        <source>Makes single keys of the selected ones (Delete, or double click)</source>
+        <translation>将所选按键拆分为单个按键（Delete 或双击）</translation>
+    </message>
+    <message>
+        <source>Back to 15 single keys</source>
+        <translation>恢复为 15 个单个按键</translation>
+    </message>
+    <message>
+        <source>Starting points</source>
+        <translation>起始方案</translation>
+    </message>
+    <message>
+        <source>Begin with another grouping</source>
+        <translation>以其他按键分组开始</translation>
+    </message>
+    <message>
+        <source>%1 keys</source>
+        <translation>%1 个按键</translation>
     </message>
 </context>
 <context>
@@ -532,6 +1066,17 @@
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>MainFrame</name>
+    <message>
+        <source>Switch</source>
+        <translation>切换</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
@@ -667,6 +1212,17 @@
     </message>
 </context>
 <context>
+    <name>PagesMenu</name>
+    <message>
+        <source>All pages with keys</source>
+        <translation>所有有按键的页面</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>第 %1 页</translation>
+    </message>
+</context>
+<context>
     <name>PendingEdits</name>
     <message>
         <source>Waits for the panel</source>
@@ -683,6 +1239,10 @@
     <message>
         <source>Its picture, video or action list cannot be read, so it was not sent.</source>
         <translation>无法读取其图片、视频或操作列表，因此未发送。</translation>
+    </message>
+    <message>
+        <source>Sending was cancelled. It is sent again at the next connection.</source>
+        <translation>已取消发送。下次连接时将重新发送。</translation>
     </message>
 </context>
 <context>
@@ -728,18 +1288,167 @@
     </message>
 </context>
 <context>
-    <name>PictureUploadPage</name>
+    <name>PictureUploadJob</name>
     <message>
-        <source>This file is no picture that can be read.</source>
-        <translation>此文件不是可读取的图片。</translation>
+        <source>Converting...</source>
+        <translation>正在转换...</translation>
     </message>
+    <message>
+        <source>The picture cannot be kept: the disk may be full. %1</source>
+        <translation>无法保留图片：磁盘可能已满。%1</translation>
+    </message>
+    <message>
+        <source>The key has no function any more.</source>
+        <translation>该按键已没有功能。</translation>
+    </message>
+    <message>
+        <source>Sending to the panel...</source>
+        <translation>正在发送到面板...</translation>
+    </message>
+</context>
+<context>
+    <name>PictureUploadOptions</name>
+    <message>
+        <source>On the key, %1 x %2 pixels:</source>
+        <translation>在按键上，%1 x %2 像素：</translation>
+    </message>
+    <message>
+        <source>%1, %2 x %3 pixels</source>
+        <translation>%1，%2 x %3 像素</translation>
+    </message>
+    <message>
+        <source>One key</source>
+        <translation>单个按键</translation>
+    </message>
+    <message>
+        <source>Fill the key</source>
+        <translation>填满按键</translation>
+    </message>
+    <message>
+        <source>Show the whole video</source>
+        <translation>显示整个视频</translation>
+    </message>
+    <message>
+        <source>Show the whole picture</source>
+        <translation>显示整张图片</translation>
+    </message>
+    <message>
+        <source>Stretch to the key</source>
+        <translation>拉伸至按键大小</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>Use as:</source>
+        <translation>用作：</translation>
+    </message>
+    <message>
+        <source>Shape:</source>
+        <translation>形状：</translation>
+    </message>
+    <message>
+        <source>Fit:</source>
+        <translation>适应方式：</translation>
+    </message>
+    <message>
+        <source>Leave out what does not fit</source>
+        <translation>舍去放不下的部分</translation>
+    </message>
+</context>
+<context>
+    <name>PictureUploadPage</name>
     <message>
         <source>The picture is in the gallery.</source>
         <translation>图片已在图库中。</translation>
     </message>
     <message>
-        <source>On a key:</source>
-        <translation>在按键上：</translation>
+        <source>Pasted picture</source>
+        <translation>粘贴的图片</translation>
+    </message>
+    <message>
+        <source>The picture cannot be taken over: the disk may be full.</source>
+        <translation>无法载入图片：磁盘可能已满。</translation>
+    </message>
+    <message>
+        <source>Reading the file...</source>
+        <translation>正在读取文件...</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels</source>
+        <translation>%1 x %2 像素</translation>
+    </message>
+    <message>
+        <source>Used: %1 x %2</source>
+        <translation>使用部分：%1 x %2</translation>
+    </message>
+    <message>
+        <source>Fewer than the key has: it will look soft.</source>
+        <translation>少于按键的像素：画面会显得模糊。</translation>
+    </message>
+    <message>
+        <source>Choose the shape of the selected key to set it there.</source>
+        <translation>请选择所选按键的形状，才能设置到该按键。</translation>
+    </message>
+    <message>
+        <source>Set on the selected key</source>
+        <translation>设置到所选按键</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Drop a picture or a video here, paste one, or choose a file.</source>
+        <translation>将图片或视频拖放或粘贴到此处，或选择文件。</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was changed.</source>
+        <translation>已取消。未作任何更改。</translation>
+    </message>
+    <message>
+        <source>The video is on the key: %1.</source>
+        <translation>视频已设置到按键：%1。</translation>
+    </message>
+    <message>
+        <source>The picture is on the key: %1.</source>
+        <translation>图片已设置到按键：%1。</translation>
+    </message>
+    <message>
+        <source>The video is in the gallery; its end did not fit.</source>
+        <translation>视频已在图库中；其结尾部分放不下。</translation>
+    </message>
+    <message>
+        <source>The video is in the gallery.</source>
+        <translation>视频已在图库中。</translation>
+    </message>
+</context>
+<context>
+    <name>PictureUploadVideo</name>
+    <message>
+        <source>%1 x %2 pixels</source>
+        <translation>%1 x %2 像素</translation>
+    </message>
+    <message>
+        <source>On the key: %1, at most %2 frames a second and %3 MB</source>
+        <translation>在按键上：%1，最多每秒 %2 帧、%3 MB</translation>
+    </message>
+    <message>
+        <source>Maybe too long: about %1 fit.</source>
+        <translation>可能太长：约可容纳 %1。</translation>
+    </message>
+    <message>
+        <source>Install vorlindesk again, or copy the program ffmpeg to this place.</source>
+        <translation>请重新安装 vorlindesk，或将程序 ffmpeg 复制到此位置。</translation>
+    </message>
+    <message>
+        <source>Tick &quot;Leave out what does not fit&quot; to use its beginning.</source>
+        <translation>勾选“舍去放不下的部分”即可使用其开头部分。</translation>
     </message>
 </context>
 <context>
@@ -981,6 +1690,10 @@
         <source>not known yet</source>
         <translation>尚未获知</translation>
     </message>
+    <message>
+        <source>The panel is not connected.</source>
+        <translation>面板未连接。</translation>
+    </message>
 </context>
 <context>
     <name>TitleEditor</name>
@@ -1023,6 +1736,156 @@
     <message>
         <source>Title alignment</source>
         <translation>标题对齐</translation>
+    </message>
+</context>
+<context>
+    <name>TransferBar</name>
+    <message>
+        <source>1 more waits</source>
+        <translation>另有 1 个等待中</translation>
+    </message>
+    <message>
+        <source>%1 more wait</source>
+        <translation>另有 %1 个等待中</translation>
+    </message>
+    <message>
+        <source>Cancel the video for key %1</source>
+        <translation>取消按键 %1 的视频</translation>
+    </message>
+    <message>
+        <source>Converting %1 ... %2 %</source>
+        <translation>正在转换 %1 ... %2 %</translation>
+    </message>
+    <message>
+        <source>Sending to key %1 ...</source>
+        <translation>正在发送到按键 %1 ...</translation>
+    </message>
+    <message>
+        <source>Sending to key %1 ... %2 of %3 blocks</source>
+        <translation>正在发送到按键 %1 ... 第 %2 块，共 %3 块</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeProgress</name>
+    <message>
+        <source>Block %1 of %2</source>
+        <translation>第 %1 块，共 %2 块</translation>
+    </message>
+    <message>
+        <source>Elapsed: %1</source>
+        <translation>已用时间：%1</translation>
+    </message>
+    <message>
+        <source>Remaining: about %1</source>
+        <translation>剩余时间：约 %1</translation>
+    </message>
+</context>
+<context>
+    <name>VideoFiles</name>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>about a second</source>
+        <translation>约 1 秒</translation>
+    </message>
+    <message>
+        <source>about %1 seconds</source>
+        <translation>约 %1 秒</translation>
+    </message>
+    <message>
+        <source>about %1 minutes</source>
+        <translation>约 %1 分钟</translation>
+    </message>
+    <message>
+        <source>%1: %2 of at most %3, %4</source>
+        <translation>%1：%2，最多 %3，%4</translation>
+    </message>
+    <message>
+        <source>%1: %2 of at most %3</source>
+        <translation>%1：%2，最多 %3</translation>
+    </message>
+</context>
+<context>
+    <name>VideoPlacement</name>
+    <message>
+        <source>Key %1 does not play videos.</source>
+        <translation>按键 %1 不播放视频。</translation>
+    </message>
+    <message>
+        <source>Should the video end there, so that it fits?</source>
+        <translation>要让视频在该处结束以便放得下吗？</translation>
+    </message>
+    <message>
+        <source>Cut the video</source>
+        <translation>截短视频</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be sent whole. It is sent again at the next connection.</source>
+        <translation>“%1”未能完整发送。下次连接时将重新发送。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read, so it was not sent.</source>
+        <translation>无法读取“%1”，因此未发送。</translation>
+    </message>
+    <message>
+        <source>Its end was left out.</source>
+        <translation>其结尾部分已舍去。</translation>
+    </message>
+</context>
+<context>
+    <name>vorlinmodel</name>
+    <message>
+        <source>Group &quot;%1&quot; is left out: layouts have the numbers 2 to 255.</source>
+        <translation>已忽略组“%1”：布局编号为 2 到 255。</translation>
+    </message>
+</context>
+<context>
+    <name>vorlinmodel::GroupReader</name>
+    <message>
+        <source>Layout %1: %2.</source>
+        <translation>布局 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Layout %1 (%2): %3.</source>
+        <translation>布局 %1（%2）：%3。</translation>
+    </message>
+    <message>
+        <source>the number of its keys is missing</source>
+        <translation>缺少按键数</translation>
+    </message>
+    <message>
+        <source>the number of its keys is &quot;%1&quot;, not 1 to 15</source>
+        <translation>按键数为“%1”，不在 1 到 15 之间</translation>
+    </message>
+    <message>
+        <source>key %1 does not name its physical keys, so those of its bitmap count</source>
+        <translation>按键 %1 未列出其实体按键，因此以其位图中的按键为准</translation>
+    </message>
+    <message>
+        <source>the physical keys of key %1 differ from its bitmap</source>
+        <translation>按键 %1 的实体按键与其位图不一致</translation>
+    </message>
+    <message>
+        <source>key %1 has no bitmap</source>
+        <translation>按键 %1 没有位图</translation>
+    </message>
+    <message>
+        <source>the physical keys of key %1 form no rectangle</source>
+        <translation>按键 %1 的实体按键未构成矩形</translation>
+    </message>
+    <message>
+        <source>key %1 overlaps key %2</source>
+        <translation>按键 %1 与按键 %2 重叠</translation>
     </message>
 </context>
 </TS>

@@ -25,6 +25,84 @@
     </message>
 </context>
 <context>
+    <name>BackgroundBox</name>
+    <message>
+        <source>The picture could not be written. Is the disk full?</source>
+        <translation>無法寫入圖片。磁碟是否已滿？</translation>
+    </message>
+    <message>
+        <source>Pages: %1</source>
+        <translation>頁面：%1</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>頁面</translation>
+    </message>
+    <message>
+        <source>Background:</source>
+        <translation>背景：</translation>
+    </message>
+    <message>
+        <source>Choose a picture…</source>
+        <translation>選擇圖片…</translation>
+    </message>
+    <message>
+        <source>A picture that spreads over all keys</source>
+        <translation>鋪滿所有按鍵的圖片</translation>
+    </message>
+    <message>
+        <source>Remove the background</source>
+        <translation>移除背景</translation>
+    </message>
+    <message>
+        <source>The pages on which the keys show it</source>
+        <translation>按鍵顯示背景的頁面</translation>
+    </message>
+    <message>
+        <source>Also on keys without a function</source>
+        <translation>也用於沒有功能的按鍵</translation>
+    </message>
+    <message>
+        <source>Such a key shows its part of the picture, and does nothing when it is pressed</source>
+        <translation>此類按鍵顯示圖片中屬於它的部分，按下時不執行任何動作</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>Backup</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>無法讀取「%1」：%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>無法寫入「%1」：%2</translation>
+    </message>
+    <message>
+        <source>The backup in &quot;%1&quot; reads back differently from what was written. It was removed: the disk may be failing.</source>
+        <translation>「%1」中的備份讀回後與寫入的內容不一致，已將其移除：磁碟可能有故障。</translation>
+    </message>
+    <message>
+        <source>Parts of the backup &quot;%1&quot; are damaged. Nothing was changed.</source>
+        <translation>備份「%1」的部分內容已損壞。未做任何變更。</translation>
+    </message>
+    <message>
+        <source>The backup &quot;%1&quot; holds nothing that can be restored.</source>
+        <translation>備份「%1」中沒有可還原的內容。</translation>
+    </message>
+    <message>
+        <source>An earlier restore could not be finished. Its files are in &quot;%1&quot;. Start the program again, and it will be tried again.</source>
+        <translation>先前的還原未能完成，其檔案位於「%1」。請重新啟動本程式，屆時將再次嘗試。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be replaced: %2 Nothing was changed.</source>
+        <translation>無法取代「%1」：%2 未做任何變更。</translation>
+    </message>
+</context>
+<context>
     <name>ColourButton</name>
     <message>
         <source>White</source>
@@ -209,6 +287,33 @@
     </message>
 </context>
 <context>
+    <name>CropPanel</name>
+    <message>
+        <source>Zoom:</source>
+        <translation>縮放：</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>縮放</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>縮小</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Part of the picture that is used</source>
+        <translation>圖片中使用的部分</translation>
+    </message>
+    <message>
+        <source>Drag the picture or use the arrow keys to move it. The wheel, + and - zoom.</source>
+        <translation>拖曳圖片或使用方向鍵可移動圖片，使用滾輪、+ 和 - 可縮放。</translation>
+    </message>
+</context>
+<context>
     <name>EditToolBar</name>
     <message>
         <source>Undo: %1</source>
@@ -253,6 +358,14 @@
         <source>Layout</source>
         <translation>版面</translation>
     </message>
+    <message>
+        <source>Select a key that has a function first.</source>
+        <translation>請先選擇一個有功能的按鍵。</translation>
+    </message>
+    <message>
+        <source>Only keys with the function for videos play them.</source>
+        <translation>只有設為影片功能的按鍵才能播放影片。</translation>
+    </message>
 </context>
 <context>
     <name>FunctionList</name>
@@ -268,41 +381,199 @@
 <context>
     <name>GalleryFrame</name>
     <message>
-        <source>Delete &quot;%1&quot; from the gallery?</source>
-        <translation>要從圖庫中刪除「%1」嗎？</translation>
-    </message>
-    <message>
-        <source>Delete %1 pictures from the gallery?</source>
-        <translation>要從圖庫中刪除 %1 張圖片嗎？</translation>
-    </message>
-    <message>
-        <source>Could not be deleted:
-%1</source>
-        <translation>無法刪除：
-%1</translation>
-    </message>
-    <message>
-        <source>Add pictures...</source>
-        <translation>加入圖片...</translation>
-    </message>
-    <message>
-        <source>There are no pictures yet. Add some with the button below, or drop picture files here. Then drag them from here onto the keys.</source>
-        <translation>還沒有圖片。請用下面的按鈕加入，或將圖片檔案拖曳到此處，然後再從此處拖曳到按鍵上。</translation>
-    </message>
-    <message>
         <source>Keys keep the pictures that they show.</source>
         <translation>按鍵會保留其顯示的圖片。</translation>
+    </message>
+    <message>
+        <source>Could not be deleted:</source>
+        <translation>無法刪除：</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>找不到任何內容。</translation>
+    </message>
+    <message>
+        <source>There is nothing here yet. Add pictures and videos with the button above, or drop or paste files or a folder here. Then drag them from here onto the keys.</source>
+        <translation>這裡還沒有內容。請用上方的按鈕加入圖片和影片，或將檔案或資料夾拖放或貼上到此處，然後從這裡將其拖曳到按鍵上。</translation>
+    </message>
+    <message>
+        <source>... and %1 more.</source>
+        <translation>... 以及另外 %1 個。</translation>
+    </message>
+    <message>
+        <source>Add...</source>
+        <translation>加入...</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>貼上</translation>
+    </message>
+    <message>
+        <source>Videos are shown without a picture: the program ffmpeg is missing.</source>
+        <translation>影片無法顯示畫面：缺少程式 ffmpeg。</translation>
+    </message>
+    <message>
+        <source>Add pictures and videos</source>
+        <translation>加入圖片和影片</translation>
+    </message>
+    <message>
+        <source>Pasted picture</source>
+        <translation>貼上的圖片</translation>
+    </message>
+    <message>
+        <source>Delete %1 pictures and videos from the gallery?</source>
+        <translation>要從圖庫中刪除 %1 個圖片和影片嗎？</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryModel</name>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 像素</translation>
     </message>
 </context>
 <context>
     <name>GalleryPictures</name>
     <message>
-        <source>%1 is larger than 32 MiB.</source>
-        <translation>%1 大於 32 MiB。</translation>
+        <source>Only the first %1 files were looked at.</source>
+        <translation>僅檢視了前 %1 個檔案。</translation>
     </message>
     <message>
-        <source>%1 is no picture that can be read.</source>
-        <translation>%1 不是可讀取的圖片。</translation>
+        <source>&quot;%1&quot; is larger than 32 MiB.</source>
+        <translation>「%1」大於 32 MiB。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no picture or video that can be read.</source>
+        <translation>「%1」不是可讀取的圖片或影片。</translation>
+    </message>
+    <message>
+        <source>There are no pictures or videos in this folder.</source>
+        <translation>此資料夾中沒有圖片或影片。</translation>
+    </message>
+    <message>
+        <source>This picture cannot be added.</source>
+        <translation>無法加入此圖片。</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryTools</name>
+    <message>
+        <source>Search</source>
+        <translation>搜尋</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+</context>
+<context>
+    <name>HIDUpgradeDialog</name>
+    <message>
+        <source>Choose the file first.</source>
+        <translation>請先選擇檔案。</translation>
+    </message>
+    <message>
+        <source>The configuration was saved in %1</source>
+        <translation>設定已儲存到 %1</translation>
+    </message>
+    <message>
+        <source>The configuration could not be saved. Upgrade all the same?</source>
+        <translation>無法儲存設定。仍要升級嗎？</translation>
+    </message>
+    <message>
+        <source>What the panel holds may be lost if the upgrade fails.</source>
+        <translation>如果升級失敗，面板中的內容可能會遺失。</translation>
+    </message>
+    <message>
+        <source>The time must be a number of milliseconds from 0 to %1.</source>
+        <translation>時間必須是 0 到 %1 之間的毫秒數。</translation>
+    </message>
+    <message>
+        <source>HID path of the panel</source>
+        <translation>面板的 HID 路徑</translation>
+    </message>
+    <message>
+        <source>Milliseconds between two blocks</source>
+        <translation>兩個資料區塊之間的毫秒數</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>檔案不存在。</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>檔案是空的。</translation>
+    </message>
+    <message>
+        <source>The file is too large: %L1 bytes. The panel takes at most %L2 bytes.</source>
+        <translation>檔案太大：%L1 位元組。面板最多接受 %L2 位元組。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read to its end. %1</source>
+        <translation>檔案無法完整讀取。%1</translation>
+    </message>
+    <message>
+        <source>No file is chosen.</source>
+        <translation>未選擇檔案。</translation>
+    </message>
+    <message>
+        <source>The file is being read.</source>
+        <translation>正在讀取檔案。</translation>
+    </message>
+    <message>
+        <source>%L1 bytes, CRC-16 0x%2</source>
+        <translation>%L1 位元組，CRC-16 0x%2</translation>
+    </message>
+    <message>
+        <source>Keep the panel plugged in until the upgrade has ended.</source>
+        <translation>升級結束前請勿拔下面板。</translation>
+    </message>
+    <message>
+        <source>The file is checked and the configuration is saved.</source>
+        <translation>正在檢查檔案並儲存設定。</translation>
+    </message>
+    <message>
+        <source>The file is checked.</source>
+        <translation>正在檢查檔案。</translation>
+    </message>
+    <message>
+        <source>Waiting for the panel. The upgrade starts as soon as it answers; close this window to give up.</source>
+        <translation>正在等待面板。面板一回應即開始升級；如要放棄，請關閉此視窗。</translation>
+    </message>
+    <message>
+        <source>The panel does not answer. If this lasts, pull its plug. </source>
+        <translation>面板沒有回應。如果一直如此，請拔下面板。 </translation>
+    </message>
+    <message>
+        <source>The upgrade runs. Do not unplug the panel.</source>
+        <translation>正在升級，請勿拔下面板。</translation>
+    </message>
+    <message>
+        <source>The upgrade is done. The panel restarts by itself.</source>
+        <translation>升級已完成。面板將自動重新啟動。</translation>
+    </message>
+    <message>
+        <source>The panel received something else than the file. </source>
+        <translation>面板收到的內容與檔案不一致。 </translation>
+    </message>
+    <message>
+        <source>The upgrade did not come to its end. </source>
+        <translation>升級未能完成。 </translation>
+    </message>
+    <message>
+        <source>Power the panel off and on, choose the file again and start the upgrade once more.</source>
+        <translation>請將面板斷電後重新通電，重新選擇檔案並再次開始升級。</translation>
+    </message>
+    <message>
+        <source>Your configuration is saved in %1</source>
+        <translation>您的設定已儲存在 %1</translation>
     </message>
 </context>
 <context>
@@ -416,6 +687,10 @@
         <source>Read from the panel</source>
         <translation>從面板讀取</translation>
     </message>
+    <message>
+        <source>Cancel the video</source>
+        <translation>取消影片</translation>
+    </message>
 </context>
 <context>
     <name>KeyWidget</name>
@@ -493,18 +768,277 @@
     </message>
 </context>
 <context>
+    <name>LayoutDraft</name>
+    <message>
+        <source>Title</source>
+        <translation>標題</translation>
+    </message>
+    <message>
+        <source>Pages of the background</source>
+        <translation>背景的頁面</translation>
+    </message>
+    <message>
+        <source>Background on keys without a function</source>
+        <translation>無功能按鍵的背景</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutEdits</name>
+    <message>
+        <source>There is no room for another layout.</source>
+        <translation>沒有空間容納更多版面。</translation>
+    </message>
+    <message>
+        <source>There are %1 layouts already.</source>
+        <translation>已有 %1 個版面。</translation>
+    </message>
+    <message>
+        <source>Change the layout</source>
+        <translation>變更版面</translation>
+    </message>
+    <message>
+        <source>New layout</source>
+        <translation>新增版面</translation>
+    </message>
+    <message>
+        <source>The layout does not exist any more.</source>
+        <translation>該版面已不存在。</translation>
+    </message>
+    <message>
+        <source>Delete the layout</source>
+        <translation>刪除版面</translation>
+    </message>
+    <message>
+        <source>Duplicate the layout</source>
+        <translation>建立版面複本</translation>
+    </message>
+    <message>
+        <source>The pictures of the background could not be saved. Is the disk full?</source>
+        <translation>無法儲存背景的圖片。磁碟是否已滿？</translation>
+    </message>
+    <message>
+        <source>The layout could not be saved. Is the disk full?</source>
+        <translation>無法儲存版面。磁碟是否已滿？</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a picture that can be read.</source>
+        <translation>「%1」不是可讀取的圖片。</translation>
+    </message>
+    <message>
+        <source>The picture could not be saved. Is the disk full?</source>
+        <translation>無法儲存圖片。磁碟是否已滿？</translation>
+    </message>
+    <message>
+        <source>Background of the layout</source>
+        <translation>版面的背景</translation>
+    </message>
+    <message>
+        <source>The layouts could not be kept aside, so those of this computer stay.</source>
+        <translation>無法另行保留版面，因此這台電腦上的版面保持不變。</translation>
+    </message>
+    <message>
+        <source>The panel sent layout %1 with keys that are no rectangles or overlap. It was left out.</source>
+        <translation>面板傳來的版面 %1 含有非矩形或重疊的按鍵，已略過該版面。</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutGrid</name>
+    <message>
+        <source>Key %1 of %2, selected: %3</source>
+        <translation>第 %1 個按鍵，共 %2 個，已選擇：%3</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutList</name>
+    <message>
+        <source>Keys: %1</source>
+        <translation>按鍵數：%1</translation>
+    </message>
+    <message>
+        <source>Not saved yet</source>
+        <translation>尚未儲存</translation>
+    </message>
+    <message>
+        <source>Not on the panel yet</source>
+        <translation>尚未傳送到面板</translation>
+    </message>
+    <message>
+        <source>Home layout of the panel</source>
+        <translation>面板的首頁版面</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>建立複本</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>版面</translation>
+    </message>
+</context>
+<context>
     <name>LayoutPage</name>
     <message>
         <source>Show in the editor</source>
         <translation>在編輯器中顯示</translation>
     </message>
     <message>
-        <source>Keys: %1</source>
-        <translation>按鍵數：%1</translation>
-    </message>
-    <message>
         <source>Layout %1</source>
         <translation>版面 %1</translation>
+    </message>
+    <message>
+        <source>Remove the background</source>
+        <translation>移除背景</translation>
+    </message>
+    <message>
+        <source>Use as home layout</source>
+        <translation>作為首頁版面</translation>
+    </message>
+    <message>
+        <source>Keys of the layout</source>
+        <translation>版面的按鍵</translation>
+    </message>
+    <message>
+        <source>Save the changes to the layout &quot;%1&quot;?</source>
+        <translation>要儲存對版面「%1」的變更嗎？</translation>
+    </message>
+    <message>
+        <source>What is not saved is lost.</source>
+        <translation>未儲存的內容將會遺失。</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>捨棄</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>%1 (copy)</source>
+        <translation>%1（複本）</translation>
+    </message>
+    <message>
+        <source>Delete the layout &quot;%1&quot;?</source>
+        <translation>要刪除版面「%1」嗎？</translation>
+    </message>
+    <message>
+        <source>None of its keys has a function.</source>
+        <translation>其按鍵均未設定功能。</translation>
+    </message>
+    <message>
+        <source>Keys with a function that go with it, on all pages: %1</source>
+        <translation>所有頁面上將一併刪除的有功能的按鍵數：%1</translation>
+    </message>
+    <message>
+        <source>Merge</source>
+        <translation>合併</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>分割</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>背景</translation>
+    </message>
+    <message>
+        <source>The title cannot be saved as it is: see the mark below it.</source>
+        <translation>標題無法依原樣儲存：請查看其下方的提示。</translation>
+    </message>
+    <message>
+        <source>Save the layout</source>
+        <translation>儲存版面</translation>
+    </message>
+    <message>
+        <source>And %1 more</source>
+        <translation>以及另外 %1 個</translation>
+    </message>
+    <message>
+        <source>These keys lose their functions, since they become part of others:</source>
+        <translation>以下按鍵將併入其他按鍵，因此會失去功能：</translation>
+    </message>
+    <message>
+        <source>Page %1, key %2: %3</source>
+        <translation>第 %1 頁，按鍵 %2：%3</translation>
+    </message>
+    <message>
+        <source>Keys: %1, page %2</source>
+        <translation>按鍵數：%1，第 %2 頁</translation>
+    </message>
+    <message>
+        <source>Undo: %1</source>
+        <translation>復原：%1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>復原</translation>
+    </message>
+    <message>
+        <source>Redo: %1</source>
+        <translation>重做：%1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>The panel is not connected.</source>
+        <translation>面板未連線。</translation>
+    </message>
+    <message>
+        <source>The layout is not saved yet.</source>
+        <translation>該版面尚未儲存。</translation>
+    </message>
+    <message>
+        <source>It is the home layout.</source>
+        <translation>它已是首頁版面。</translation>
+    </message>
+    <message>
+        <source>The panel shows it after its start</source>
+        <translation>面板啟動後顯示此版面</translation>
+    </message>
+    <message>
+        <source>Some layouts in the file cannot be used as they are. Nothing of the file is lost.</source>
+        <translation>檔案中的某些版面無法依原樣使用。檔案內容不會遺失。</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutTools</name>
+    <message>
+        <source>Starting point</source>
+        <translation>起始方案</translation>
+    </message>
+    <message>
+        <source>Merge</source>
+        <translation>合併</translation>
+    </message>
+    <message>
+        <source>Makes one key of those that are selected (Enter)</source>
+        <translation>將所選按鍵合併為一個按鍵（Enter）</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>分割</translation>
+    </message>
+    <message>
+        <source>Makes single keys of the selected ones (Delete, or double click)</source>
+        <translation>將所選按鍵分割為單一按鍵（Delete 或按兩下）</translation>
+    </message>
+    <message>
+        <source>Back to 15 single keys</source>
+        <translation>還原為 15 個單一按鍵</translation>
+    </message>
+    <message>
+        <source>Starting points</source>
+        <translation>起始方案</translation>
+    </message>
+    <message>
+        <source>Begin with another grouping</source>
+        <translation>以其他按鍵分組開始</translation>
+    </message>
+    <message>
+        <source>%1 keys</source>
+        <translation>%1 個按鍵</translation>
     </message>
 </context>
 <context>
@@ -532,6 +1066,17 @@
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>MainFrame</name>
+    <message>
+        <source>Switch</source>
+        <translation>切換</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
@@ -667,6 +1212,17 @@
     </message>
 </context>
 <context>
+    <name>PagesMenu</name>
+    <message>
+        <source>All pages with keys</source>
+        <translation>所有有按鍵的頁面</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>第 %1 頁</translation>
+    </message>
+</context>
+<context>
     <name>PendingEdits</name>
     <message>
         <source>Waits for the panel</source>
@@ -683,6 +1239,10 @@
     <message>
         <source>Its picture, video or action list cannot be read, so it was not sent.</source>
         <translation>無法讀取其圖片、影片或動作清單，因此未傳送。</translation>
+    </message>
+    <message>
+        <source>Sending was cancelled. It is sent again at the next connection.</source>
+        <translation>已取消傳送。下次連線時將重新傳送。</translation>
     </message>
 </context>
 <context>
@@ -728,18 +1288,167 @@
     </message>
 </context>
 <context>
-    <name>PictureUploadPage</name>
+    <name>PictureUploadJob</name>
     <message>
-        <source>This file is no picture that can be read.</source>
-        <translation>此檔案不是可讀取的圖片。</translation>
+        <source>Converting...</source>
+        <translation>正在轉換...</translation>
     </message>
+    <message>
+        <source>The picture cannot be kept: the disk may be full. %1</source>
+        <translation>無法保留圖片：磁碟可能已滿。%1</translation>
+    </message>
+    <message>
+        <source>The key has no function any more.</source>
+        <translation>該按鍵已沒有功能。</translation>
+    </message>
+    <message>
+        <source>Sending to the panel...</source>
+        <translation>正在傳送到面板...</translation>
+    </message>
+</context>
+<context>
+    <name>PictureUploadOptions</name>
+    <message>
+        <source>On the key, %1 x %2 pixels:</source>
+        <translation>在按鍵上，%1 x %2 像素：</translation>
+    </message>
+    <message>
+        <source>%1, %2 x %3 pixels</source>
+        <translation>%1，%2 x %3 像素</translation>
+    </message>
+    <message>
+        <source>One key</source>
+        <translation>單一按鍵</translation>
+    </message>
+    <message>
+        <source>Fill the key</source>
+        <translation>填滿按鍵</translation>
+    </message>
+    <message>
+        <source>Show the whole video</source>
+        <translation>顯示整個影片</translation>
+    </message>
+    <message>
+        <source>Show the whole picture</source>
+        <translation>顯示整張圖片</translation>
+    </message>
+    <message>
+        <source>Stretch to the key</source>
+        <translation>延展至按鍵大小</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>圖片</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>影片</translation>
+    </message>
+    <message>
+        <source>Use as:</source>
+        <translation>用作：</translation>
+    </message>
+    <message>
+        <source>Shape:</source>
+        <translation>形狀：</translation>
+    </message>
+    <message>
+        <source>Fit:</source>
+        <translation>調整方式：</translation>
+    </message>
+    <message>
+        <source>Leave out what does not fit</source>
+        <translation>捨去放不下的部分</translation>
+    </message>
+</context>
+<context>
+    <name>PictureUploadPage</name>
     <message>
         <source>The picture is in the gallery.</source>
         <translation>圖片已在圖庫中。</translation>
     </message>
     <message>
-        <source>On a key:</source>
-        <translation>在按鍵上：</translation>
+        <source>Pasted picture</source>
+        <translation>貼上的圖片</translation>
+    </message>
+    <message>
+        <source>The picture cannot be taken over: the disk may be full.</source>
+        <translation>無法載入圖片：磁碟可能已滿。</translation>
+    </message>
+    <message>
+        <source>Reading the file...</source>
+        <translation>正在讀取檔案...</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels</source>
+        <translation>%1 x %2 像素</translation>
+    </message>
+    <message>
+        <source>Used: %1 x %2</source>
+        <translation>使用部分：%1 x %2</translation>
+    </message>
+    <message>
+        <source>Fewer than the key has: it will look soft.</source>
+        <translation>少於按鍵的像素：畫面會顯得模糊。</translation>
+    </message>
+    <message>
+        <source>Choose the shape of the selected key to set it there.</source>
+        <translation>請選擇所選按鍵的形狀，才能設定到該按鍵。</translation>
+    </message>
+    <message>
+        <source>Set on the selected key</source>
+        <translation>設定到所選按鍵</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Drop a picture or a video here, paste one, or choose a file.</source>
+        <translation>將圖片或影片拖放或貼上到此處，或選擇檔案。</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was changed.</source>
+        <translation>已取消。未做任何變更。</translation>
+    </message>
+    <message>
+        <source>The video is on the key: %1.</source>
+        <translation>影片已設定到按鍵：%1。</translation>
+    </message>
+    <message>
+        <source>The picture is on the key: %1.</source>
+        <translation>圖片已設定到按鍵：%1。</translation>
+    </message>
+    <message>
+        <source>The video is in the gallery; its end did not fit.</source>
+        <translation>影片已在圖庫中；其結尾部分放不下。</translation>
+    </message>
+    <message>
+        <source>The video is in the gallery.</source>
+        <translation>影片已在圖庫中。</translation>
+    </message>
+</context>
+<context>
+    <name>PictureUploadVideo</name>
+    <message>
+        <source>%1 x %2 pixels</source>
+        <translation>%1 x %2 像素</translation>
+    </message>
+    <message>
+        <source>On the key: %1, at most %2 frames a second and %3 MB</source>
+        <translation>在按鍵上：%1，最多每秒 %2 個影格、%3 MB</translation>
+    </message>
+    <message>
+        <source>Maybe too long: about %1 fit.</source>
+        <translation>可能太長：約可容納 %1。</translation>
+    </message>
+    <message>
+        <source>Install vorlindesk again, or copy the program ffmpeg to this place.</source>
+        <translation>請重新安裝 vorlindesk，或將程式 ffmpeg 複製到此位置。</translation>
+    </message>
+    <message>
+        <source>Tick &quot;Leave out what does not fit&quot; to use its beginning.</source>
+        <translation>勾選「捨去放不下的部分」即可使用其開頭部分。</translation>
     </message>
 </context>
 <context>
@@ -981,6 +1690,10 @@
         <source>not known yet</source>
         <translation>尚未得知</translation>
     </message>
+    <message>
+        <source>The panel is not connected.</source>
+        <translation>面板未連線。</translation>
+    </message>
 </context>
 <context>
     <name>TitleEditor</name>
@@ -1023,6 +1736,156 @@
     <message>
         <source>Title alignment</source>
         <translation>標題對齊</translation>
+    </message>
+</context>
+<context>
+    <name>TransferBar</name>
+    <message>
+        <source>1 more waits</source>
+        <translation>另有 1 個等待中</translation>
+    </message>
+    <message>
+        <source>%1 more wait</source>
+        <translation>另有 %1 個等待中</translation>
+    </message>
+    <message>
+        <source>Cancel the video for key %1</source>
+        <translation>取消按鍵 %1 的影片</translation>
+    </message>
+    <message>
+        <source>Converting %1 ... %2 %</source>
+        <translation>正在轉換 %1 ... %2 %</translation>
+    </message>
+    <message>
+        <source>Sending to key %1 ...</source>
+        <translation>正在傳送到按鍵 %1 ...</translation>
+    </message>
+    <message>
+        <source>Sending to key %1 ... %2 of %3 blocks</source>
+        <translation>正在傳送到按鍵 %1 ... 第 %2 個區塊，共 %3 個</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeProgress</name>
+    <message>
+        <source>Block %1 of %2</source>
+        <translation>第 %1 個區塊，共 %2 個</translation>
+    </message>
+    <message>
+        <source>Elapsed: %1</source>
+        <translation>已用時間：%1</translation>
+    </message>
+    <message>
+        <source>Remaining: about %1</source>
+        <translation>剩餘時間：約 %1</translation>
+    </message>
+</context>
+<context>
+    <name>VideoFiles</name>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>about a second</source>
+        <translation>約 1 秒</translation>
+    </message>
+    <message>
+        <source>about %1 seconds</source>
+        <translation>約 %1 秒</translation>
+    </message>
+    <message>
+        <source>about %1 minutes</source>
+        <translation>約 %1 分鐘</translation>
+    </message>
+    <message>
+        <source>%1: %2 of at most %3, %4</source>
+        <translation>%1：%2，最多 %3，%4</translation>
+    </message>
+    <message>
+        <source>%1: %2 of at most %3</source>
+        <translation>%1：%2，最多 %3</translation>
+    </message>
+</context>
+<context>
+    <name>VideoPlacement</name>
+    <message>
+        <source>Key %1 does not play videos.</source>
+        <translation>按鍵 %1 不播放影片。</translation>
+    </message>
+    <message>
+        <source>Should the video end there, so that it fits?</source>
+        <translation>要讓影片在該處結束以便放得下嗎？</translation>
+    </message>
+    <message>
+        <source>Cut the video</source>
+        <translation>截短影片</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be sent whole. It is sent again at the next connection.</source>
+        <translation>「%1」未能完整傳送。下次連線時將重新傳送。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read, so it was not sent.</source>
+        <translation>無法讀取「%1」，因此未傳送。</translation>
+    </message>
+    <message>
+        <source>Its end was left out.</source>
+        <translation>其結尾部分已捨去。</translation>
+    </message>
+</context>
+<context>
+    <name>vorlinmodel</name>
+    <message>
+        <source>Group &quot;%1&quot; is left out: layouts have the numbers 2 to 255.</source>
+        <translation>已略過群組「%1」：版面編號為 2 到 255。</translation>
+    </message>
+</context>
+<context>
+    <name>vorlinmodel::GroupReader</name>
+    <message>
+        <source>Layout %1: %2.</source>
+        <translation>版面 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Layout %1 (%2): %3.</source>
+        <translation>版面 %1（%2）：%3。</translation>
+    </message>
+    <message>
+        <source>the number of its keys is missing</source>
+        <translation>缺少按鍵數</translation>
+    </message>
+    <message>
+        <source>the number of its keys is &quot;%1&quot;, not 1 to 15</source>
+        <translation>按鍵數為「%1」，不在 1 到 15 之間</translation>
+    </message>
+    <message>
+        <source>key %1 does not name its physical keys, so those of its bitmap count</source>
+        <translation>按鍵 %1 未列出其實體按鍵，因此以其位元圖中的按鍵為準</translation>
+    </message>
+    <message>
+        <source>the physical keys of key %1 differ from its bitmap</source>
+        <translation>按鍵 %1 的實體按鍵與其位元圖不一致</translation>
+    </message>
+    <message>
+        <source>key %1 has no bitmap</source>
+        <translation>按鍵 %1 沒有位元圖</translation>
+    </message>
+    <message>
+        <source>the physical keys of key %1 form no rectangle</source>
+        <translation>按鍵 %1 的實體按鍵未構成矩形</translation>
+    </message>
+    <message>
+        <source>key %1 overlaps key %2</source>
+        <translation>按鍵 %1 與按鍵 %2 重疊</translation>
     </message>
 </context>
 </TS>

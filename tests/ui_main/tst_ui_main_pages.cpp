@@ -3,16 +3,13 @@
 #include "ui_common/filedialog.h"
 #include "ui_common/messagebox.h"
 #include "ui_editor/functionconfigwidget.h"
-#include "ui_main/layoutpreview.h"
+#include "ui_main/layoutgrid.h"
 #include "ui_main/mainframe.h"
 #include "ui_main/widget.h"
 #include "uimainfakes.h"
 
-#include <QLabel>
-#include <QListView>
-#include <QListWidget>
-#include <QPushButton>
 #include <QtTest>
+#include <QtWidgets>
 
 class tst_ui_main_pages : public QObject
 {
@@ -62,15 +59,15 @@ private slots:
         open(1);
         auto *list = child<QListWidget>("layouts");
         QCOMPARE(list->count(), 2);
-        QCOMPARE(list->item(0)->text(), QStringLiteral("System Panel Layout 1"));
-        QCOMPARE(list->item(1)->text(), QStringLiteral("Big one"));
+        QCOMPARE(list->item(0)->text(), "System Panel Layout 1"_s);
+        QCOMPARE(list->item(1)->text(), "Big one"_s);
         QCOMPARE(list->currentRow(), 0);
         list->setCurrentRow(1);
         child<QPushButton>("showInEditor")->click();
         const auto *editor = mpWidget->findChild<FunctionConfigWidget *>();
         QVERIFY(!editor->isHidden());
         QCOMPARE(editor->curLayoutId(), 12);
-        QVERIFY(mpContext->requests.contains(QStringLiteral("7: 12, 1")));
+        QVERIFY(mpContext->requests.contains("7: 12, 1"_s));
     }
 
     void previewShowsMergedKeys()
@@ -81,7 +78,7 @@ private slots:
         QVERIFY(red.save(mpDir->path("red.png")));
         mpContext->store.setCustomImage({12, 1, 1}, mpDir->path("red.png"));
         open(1);
-        auto *preview = child<LayoutPreview>("layoutPreview");
+        auto *preview = child<LayoutGrid>("layoutGrid");
         child<QListWidget>("layouts")->setCurrentRow(1);
         mpWidget->show();
         const QImage drawn = preview->grab().toImage();
@@ -92,47 +89,38 @@ private slots:
         QVERIFY(drawn.pixelColor(cellRect({1, 1, 3, 0x4}, grid, size).center()) != QColor(Qt::red));
     }
 
-    void pictureIsTriedOnAKeyAndAddedToTheGallery()
+    void pictureOfTheUploadPageComesIntoTheGallery()
     {
+        if (!QFile::exists(vorlindesk::Paths::ffmpegTool()))
+            QSKIP("there is no ffmpeg beside this program");
         QImage image(300, 200, QImage::Format_RGB32);
         image.fill(Qt::blue);
-        QVERIFY(image.save(mpDir->path("photo.jpg")));
-        writeFile("text.png", "no picture");
+        const QString photo = mpDir->path("photo.jpg");
+        QVERIFY(image.save(photo));
         open(2);
+        FileDialog::setAnswer([&photo](const QString &) { return QStringList(photo); });
+        child<QPushButton>("selectPicture")->click();
         auto *add = child<QPushButton>("addToGallery");
-        QVERIFY(!add->isEnabled());
-        QString chosen = mpDir->path("photo.jpg");
-        FileDialog::setAnswer([&chosen](const QString &) { return QStringList(chosen); });
-        child<QPushButton>("selectPicture")->click();
-        const QPixmap preview = child<QLabel>("preview")->pixmap(Qt::ReturnByValue);
-        QCOMPARE(preview.size(), QSize(180, 168));                         // a key, at twice its size
-        QCOMPARE(preview.toImage().pixelColor(90, 84), QColor(0, 0, 254)); // as JPEG has it
+        QTRY_VERIFY(add->isEnabled());
         add->click();
-        QVERIFY(QFile::exists(mpDir->path("devConfig/gallery/photo.jpg")));
-        QCOMPARE(child<QListView>("gallery")->model()->rowCount(), 1);
-
-        chosen = mpDir->path("text.png");
-        child<QPushButton>("selectPicture")->click();
-        QVERIFY(!add->isEnabled());
-        QCOMPARE(child<QLabel>("message")->text(),
-                 QStringLiteral("This file is no picture that can be read."));
+        QTRY_COMPARE(child<QListView>("gallery")->model()->rowCount(), 1);
     }
 
     void systemSettingsShowWhatThePanelReports()
     {
         open(3);
-        QCOMPARE(child<QLabel>("brightness")->text(), QStringLiteral("not known yet"));
+        QCOMPARE(child<QLabel>("brightness")->text(), "not known yet"_s);
         mpContext->thread.receive(PanelMessage::message(16, QByteArrayLiteral("\x00\x50")));
         mpContext->thread.receive(PanelMessage::softwareVersion());
         mpContext->thread.receive(PanelMessage::hardwareVersion());
-        QTRY_COMPARE(child<QLabel>("hardwareVersionValue")->text(), QStringLiteral("HW 1.2"));
-        QCOMPARE(child<QLabel>("brightness")->text(), QStringLiteral("80"));
-        QCOMPARE(child<QLabel>("softwareVersionValue")->text(), QStringLiteral("SW 3.4"));
+        QTRY_COMPARE(child<QLabel>("hardwareVersionValue")->text(), "HW 1.2"_s);
+        QCOMPARE(child<QLabel>("brightness")->text(), "80"_s);
+        QCOMPARE(child<QLabel>("softwareVersionValue")->text(), "SW 3.4"_s);
         mpContext->requests.clear();
         open(3); // the panel tells its brightness only when asked
-        QCOMPARE(mpContext->requests, QStringList(QStringLiteral("16: 255")));
+        QCOMPARE(mpContext->requests, QStringList("16: 255"_s));
         child<QPushButton>("openLogFolder")->click();
-        QCOMPARE(mDesktop.calls, QStringList(QStringLiteral("file ") + vorlindesk::Paths::logFolder()));
+        QCOMPARE(mDesktop.calls, QStringList("file "_s + vorlindesk::Paths::logFolder()));
     }
 };
 

@@ -1,6 +1,7 @@
 // What becomes of each kind of message from the panel.
 #include "base/handover.h"
 #include "base/systemsettings.h"
+#include "support/table.h"
 #include "ui_main/receiveddata.h"
 #include "uimainfakes.h"
 
@@ -12,27 +13,23 @@ struct Recorder : IReceivedData
 {
     void onPageReceived(const ReceivedPage &page) override
     {
-        calls << QStringLiteral("page %1 %2 %3 %4")
-                     .arg(page.layoutId)
-                     .arg(page.pageId)
-                     .arg(page.keyCount)
-                     .arg(page.first);
+        calls << "page %1 %2 %3 %4"_s.arg(page.layoutId).arg(page.pageId).arg(page.keyCount).arg(page.first);
         for (const vorlinmodel::key_id_t &key : page.keys)
-            calls.last() += QStringLiteral(" %1.%2.%3").arg(key.lid).arg(key.pageid).arg(key.kid);
+            calls.last() += " %1.%2.%3"_s.arg(key.lid).arg(key.pageid).arg(key.kid);
     }
     void onRecordReceived(int total, int received) override
     {
-        calls << QStringLiteral("record %1 %2").arg(total).arg(received);
+        calls << "record %1 %2"_s.arg(total).arg(received);
     }
-    void onConfigurationComplete() override { calls << QStringLiteral("complete"); }
+    void onConfigurationComplete() override { calls << "complete"_s; }
     void onTextReceived(int code, const QString &text) override
     {
-        calls << QStringLiteral("text %1 %2").arg(code).arg(text);
+        calls << "text %1 %2"_s.arg(code).arg(text);
     }
-    void onHomeLayoutReceived(int layoutId) override { calls << QStringLiteral("home %1").arg(layoutId); }
+    void onHomeLayoutReceived(int layoutId) override { calls << "home %1"_s.arg(layoutId); }
     void onCustomLayoutReceived(const QByteArray &payload) override
     {
-        calls << QStringLiteral("layout ") + QString::fromLatin1(payload.toHex());
+        calls << "layout "_s + QString::fromLatin1(payload.toHex());
     }
 
     QStringList calls;
@@ -43,6 +40,7 @@ struct Recorder : IReceivedData
 class tst_ui_main_received : public QObject
 {
     Q_OBJECT
+    using MessageTable = Table<QByteArray, QStringList, QString>;
     TemporaryCurrentDir mDir;
     vorlinmodel::FunctionManager mStore;
     int mCleared = 0;
@@ -57,9 +55,9 @@ class tst_ui_main_received : public QObject
         ReceivedDataHandler handler(mStore, handOver, recorder, {0, clear});
         for (const QByteArray &message : messages)
             handler.handle({message, false});
-        handOver.post([&recorder] { recorder.calls << QStringLiteral("end"); });
-        if (!QTest::qWaitFor([&recorder] { return recorder.calls.contains(QStringLiteral("end")); }))
-            return {QStringLiteral("not handed over")};
+        handOver.post([&recorder] { recorder.calls << "end"_s; });
+        if (!QTest::qWaitFor([&recorder] { return recorder.calls.contains("end"_s); }))
+            return {"not handed over"_s};
         recorder.calls.removeLast();
         return recorder.calls;
     }
@@ -73,40 +71,35 @@ private slots:
 
     void messageIsDispatched_data()
     {
-        QTest::addColumn<QByteArray>("message");
-        QTest::addColumn<QStringList>("calls");
-        QTest::addColumn<QString>("log"); // what one of the lines contains
-        const auto row = [](const char *name, const char *hex, const QStringList &calls, const char *log) {
-            QTest::newRow(name) << QByteArray::fromHex(hex) << calls << QString::fromLatin1(log);
-        };
-        row("version ends at its NUL", "04 05000000 56 31 00 FF FF", {QStringLiteral("text 4 V1")},
-            "1 Software version of the panel: V1");
-        row("version longer than what arrived", "03 FF000000 56", {QStringLiteral("text 3 V")}, "panel: V");
-        row("version without a length", "03", {QStringLiteral("text 3 ")}, "panel: ");
-        row("version in several lines", "03 05000000 56 0A 31 0D 32", {QStringLiteral("text 3 V 1 2")},
-            "V 1 2");
-        row("brightness", "10 02000000 00 50", {QStringLiteral("text 16 80")},
+        const MessageTable row; // a message, what it leads to, and what one line of the log contains
+        row("version ends at its NUL", QByteArray::fromHex("04 05000000 56 31 00 FF FF"),
+            QStringList("text 4 V1"_s), "1 Software version of the panel: V1");
+        row("version longer than what arrived", QByteArray::fromHex("03 FF000000 56"),
+            QStringList("text 3 V"_s), "panel: V");
+        row("version without a length", QByteArray::fromHex("03"), QStringList("text 3 "_s), "panel: ");
+        row("version in several lines", QByteArray::fromHex("03 05000000 56 0A 31 0D 32"),
+            QStringList("text 3 V 1 2"_s), "V 1 2");
+        row("brightness", QByteArray::fromHex("10 02000000 00 50"), QStringList("text 16 80"_s),
             "1 --------------MD_FUNCTION_CODE_LCD_LIGHT-----light:0 80");
-        row("brightness cut short", "10 02000000 00", {}, "");
-        row("system type without its byte", "12", {}, "");
-        row("home layout cut short", "11 01000000 01", {},
+        row("brightness cut short", QByteArray::fromHex("10 02000000 00"), {}, "");
+        row("system type without its byte", QByteArray::fromHex("12"), {}, "");
+        row("home layout cut short", QByteArray::fromHex("11 01000000 01"), {},
             "1 --------------MD_FUNCTION_CODE_HOME_LAYOUT-----");
-        row("empty page", "08 02000000 03 07", {QStringLiteral("page 3 7 0 0"), QStringLiteral("complete")},
-            "1 device key is empty Layoutid[3] Pageid[7]");
-        row("page of one byte", "08 01000000 03", {}, "config data length (1) error");
-        row("attribute cut short", "01 03000000 01 01 01", {QStringLiteral("record 0 0")},
+        row("empty page", QByteArray::fromHex("08 02000000 03 07"),
+            QStringList{"page 3 7 0 0"_s, "complete"_s}, "1 device key is empty Layoutid[3] Pageid[7]");
+        row("page of one byte", QByteArray::fromHex("08 01000000 03"), {}, "config data length (1) error");
+        row("attribute cut short", QByteArray::fromHex("01 03000000 01 01 01"), QStringList("record 0 0"_s),
             "config data length (3) error");
-        row("unknown code", "63 01000000 01", {}, "");
+        row("unknown code", QByteArray::fromHex("63 01000000 01"), {}, "");
     }
 
     void messageIsDispatched()
     {
-        QFETCH(QByteArray, message);
-        QFETCH(QString, log);
+        const auto [message, calls, log] = MessageTable::current();
         mStore.setRecvTotalKeyCount(0);
         const LogCapture capture;
         // A copy of exactly its size on the heap: a read beyond it is found by the address sanitizer.
-        QTEST(handle({QByteArray(message.constData(), message.size())}), "calls");
+        QCOMPARE(handle({QByteArray(message.constData(), message.size())}), calls);
         if (!log.isEmpty())
             QCOMPARE(capture.count(qUtf8Printable(log)), 1);
     }
@@ -115,8 +108,7 @@ private slots:
     {
         QCOMPARE(handle({PanelMessage::page(1, 2, 2), PanelMessage::picture(1, 2, 3),
                          PanelMessage::message(8, QByteArray::fromHex("0307"))}),
-                 QStringList({QStringLiteral("page 1 2 2 0 1.2.1 1.2.2"), QStringLiteral("record 2 1"),
-                              QStringLiteral("page 3 7 0 0"), QStringLiteral("complete")}));
+                 texts({"page 1 2 2 0 1.2.1 1.2.2", "record 2 1", "page 3 7 0 0", "complete"}));
         QCOMPARE(mStore.getReceivedCounts().total, 0);
         QCOMPARE(mStore.getReceivedCounts().current, 0);
     }
@@ -125,7 +117,7 @@ private slots:
     {
         // Layout 2; key 4 leads to page 5 of layout 1 with sum 3; key 6 has nothing set.
         const QByteArray body = QByteArray::fromHex("02 02 04010503 06FFFFFF");
-        QCOMPARE(handle({PanelMessage::message(17, body)}), QStringList(QStringLiteral("home 2")));
+        QCOMPARE(handle({PanelMessage::message(17, body)}), QStringList("home 2"_s));
         const vorlindesk::SystemSettings::HomeLayoutEntry expected{4, 1, 5, 3};
         QCOMPARE(vorlindesk::SystemSettings::homeLayoutEntry(4), expected);
     }
@@ -134,8 +126,7 @@ private slots:
     {
         vorlindesk::SystemSettings::setLoadCustomLayout(true);
         const QByteArray message = PanelMessage::message(13, QByteArray::fromHex("0B00"));
-        QCOMPARE(handle({message, message}),
-                 QStringList({QStringLiteral("layout 0b00"), QStringLiteral("layout 0b00")}));
+        QCOMPARE(handle({message, message}), texts({"layout 0b00", "layout 0b00"}));
         QCOMPARE(mCleared, 1);
         QVERIFY(!vorlindesk::SystemSettings::loadCustomLayout());
     }

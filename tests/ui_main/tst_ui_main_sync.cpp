@@ -1,5 +1,6 @@
 // The main window and the panel: asking for the version, reading the configuration, polling, coming back.
 #include "base/systemsettings.h"
+#include "support/table.h"
 #include "ui_common/messagebox.h"
 #include "ui_editor/editorcontext.h"
 #include "ui_editor/functionconfigwidget.h"
@@ -8,10 +9,7 @@
 #include "ui_main/widget.h"
 #include "uimainfakes.h"
 
-#include <QLabel>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QtTest>
+#include <QtWidgets>
 #include <thread>
 
 namespace {
@@ -27,7 +25,7 @@ QByteArray pngBytes()
     return bytes;
 }
 
-const QStringList ReadRequest{QStringLiteral("dialog 8: 100000"), QStringLiteral("8: 60")};
+const QStringList ReadRequest{"dialog 8: 100000"_s, "8: 60"_s};
 
 } // namespace
 
@@ -55,9 +53,9 @@ class tst_ui_main_sync : public QObject
     void settle()
     {
         receive(PanelMessage::message(16, QByteArrayLiteral("\x00\x2A")));
-        QTRY_COMPARE(brightness(), QStringLiteral("42"));
+        QTRY_COMPARE(brightness(), "42"_s);
         receive(PanelMessage::message(16, QByteArrayLiteral("\x00\x01")));
-        QTRY_COMPARE(brightness(), QStringLiteral("1"));
+        QTRY_COMPARE(brightness(), "1"_s);
     }
 
     /// Does not wait out the second in which another page might come.
@@ -83,6 +81,11 @@ class tst_ui_main_sync : public QObject
         mpWidget->readConfiguration();
         mpContext->requests.clear();
     }
+
+    using PollTable = Table<bool, bool, bool, QStringList>;
+    using ReturningTable = Table<bool, bool, bool, QStringList>;
+    using ReadTable = Table<bool, bool, int>;
+    using TimeOutTable = Table<int, QString>;
 
 private slots:
     void init()
@@ -120,9 +123,8 @@ private slots:
         mpContext->thread.upgrading = false;
         for (int i = 0; i < 2; ++i)
             mpWidget->slotTimerSyncOut();
-        QCOMPARE(mpContext->requests, QStringList({QStringLiteral("3: 10"), QStringLiteral("3: 10")}));
-        QCOMPARE(mpLog->matching("mIsFirstSync"),
-                 QStringList(QStringLiteral("1 ----------------mIsFirstSync=1")));
+        QCOMPARE(mpContext->requests, texts({"3: 10", "3: 10"}));
+        QCOMPARE(mpLog->matching("mIsFirstSync"), QStringList("1 ----------------mIsFirstSync=1"_s));
         vorlindesk::SystemSettings::setAutoSyncEnable(false);
         mpWidget = std::make_unique<Widget>(*mpContext, mDesktop);
         QVERIFY(!timer("syncTimer")->isActive());
@@ -136,7 +138,7 @@ private slots:
         std::thread panel([this] { receive(PanelMessage::hardwareVersion()); }); // as the real signals come
         panel.join();
         QTRY_COMPARE(started.count(), 1);
-        QCOMPARE(label("hardwareVersion"), QStringLiteral("PIC Hardware Version: HW 1.2"));
+        QCOMPARE(label("hardwareVersion"), "PIC Hardware Version: HW 1.2"_s);
         QCOMPARE(timer("syncTimer")->interval(), 3000);
         QVERIFY(mpContext->store.getModeFlag());
         QVERIFY(QFileInfo(mpDir->path("devConfig/image")).isDir());
@@ -155,21 +157,16 @@ private slots:
 
     void pollAsksOnlyWhileIdle_data()
     {
-        QTest::addColumn<bool>("synchronised");
-        QTest::addColumn<bool>("modeFlag");
-        QTest::addColumn<bool>("upgrading");
-        QTest::addColumn<QStringList>("requests");
-        QTest::newRow("idle") << true << false << false << QStringList(QStringLiteral("4: 10"));
-        QTest::newRow("no version yet") << false << false << false << QStringList();
-        QTest::newRow("reading") << true << true << false << QStringList();
-        QTest::newRow("upgrading") << true << false << true << QStringList();
+        const PollTable row;
+        row("idle", true, false, false, QStringList("4: 10"_s));
+        row("no version yet", false, false, false, {});
+        row("reading", true, true, false, {});
+        row("upgrading", true, false, true, {});
     }
 
     void pollAsksOnlyWhileIdle()
     {
-        QFETCH(bool, synchronised);
-        QFETCH(bool, modeFlag);
-        QFETCH(bool, upgrading);
+        const auto [synchronised, modeFlag, upgrading, requests] = PollTable::current();
         if (synchronised) {
             receive(PanelMessage::hardwareVersion());
             settle();
@@ -181,7 +178,7 @@ private slots:
         timer("pollTimer")->setSingleShot(true);
         timer("pollTimer")->start(1);
         QVERIFY(polled.wait());
-        QTEST(mpContext->requests, "requests");
+        QCOMPARE(mpContext->requests, requests);
     }
 
     void readShowsItsProgressAndEndsWithTheLastRecord()
@@ -192,9 +189,9 @@ private slots:
         receive(PanelMessage::page(1, 3, 3));
         receive(PanelMessage::picture(1, 3, 1, pngBytes()));
         receive(PanelMessage::picture(1, 3, 2));
-        QTRY_COMPARE(label("activity"), QStringLiteral("Reading the configuration... 2 of 3 keys"));
+        QTRY_COMPARE(label("activity"), "Reading the configuration... 2 of 3 keys"_s);
         // 10 s, and 1 s for each record that is missing
-        QCOMPARE(spinner()->findChild<QTimer *>(QStringLiteral("showTime"))->interval(), 11000);
+        QCOMPARE(spinner()->findChild<QTimer *>("showTime"_s)->interval(), 11000);
         QVERIFY(spinner()->isSpinning());
         receive(PanelMessage::picture(1, 3, 3));
         QTRY_VERIFY(!spinner()->isSpinning());
@@ -202,7 +199,7 @@ private slots:
         QCOMPARE(editor()->curPageId(), 3);
         QVERIFY(QFileInfo::exists(mpDir->path("devConfig/image/1_3_1.png")));
         QTRY_COMPARE(finished("Configuration read: 3 keys on 1 pages"), 1);
-        QCOMPARE(label("activity"), QStringLiteral("Connected"));
+        QCOMPARE(label("activity"), "Connected"_s);
         QCOMPARE(mBoxes, QStringList());
     }
 
@@ -221,32 +218,25 @@ private slots:
             receive(PanelMessage::picture(1, page, 2));
         }
         QTRY_COMPARE(finished("Configuration read: 4 keys on 2 pages"), 1);
-        QCOMPARE(QDir(mpDir->path("devConfig/image")).entryList({QStringLiteral("*.png")}),
-                 QStringList({QStringLiteral("1_1_1.png"), QStringLiteral("1_2_1.png")}));
+        QCOMPARE(QDir(mpDir->path("devConfig/image")).entryList({"*.png"_s}),
+                 texts({"1_1_1.png", "1_2_1.png"}));
         QCOMPARE(editor()->curPageId(), 1);
     }
 
     void returningPanelIsReadAgain_data()
     {
-        QTest::addColumn<bool>("reading");
-        QTest::addColumn<bool>("linkLost");
-        QTest::addColumn<bool>("timedOut");
-        QTest::addColumn<QStringList>("requests");
-        QTest::newRow("in the middle of a read") << true << false << false << ReadRequest;
-        const QStringList pageInView(QStringLiteral("7: 1, 1"));
-        QTest::newRow("after the link was seen to break")
-            << true << true << false << pageInView + ReadRequest;
-        QTest::newRow("later than the time-out") << true << true << true << pageInView + ReadRequest;
-        QTest::newRow("after a read that a panel in reach did not answer")
-            << true << false << true << QStringList();
-        QTest::newRow("while nothing is read") << false << true << false << pageInView;
+        const ReturningTable row;
+        row("in the middle of a read", true, false, false, ReadRequest);
+        const QStringList pageInView("7: 1, 1"_s);
+        row("after the link was seen to break", true, true, false, pageInView + ReadRequest);
+        row("later than the time-out", true, true, true, pageInView + ReadRequest);
+        row("after a read that a panel in reach did not answer", true, false, true, {});
+        row("while nothing is read", false, true, false, pageInView);
     }
 
     void returningPanelIsReadAgain()
     {
-        QFETCH(bool, reading);
-        QFETCH(bool, linkLost);
-        QFETCH(bool, timedOut);
+        const auto [reading, linkLost, timedOut, requests] = ReturningTable::current();
         mpContext->thread.sigUsbConnectState(true);
         if (reading) {
             startReading();
@@ -256,7 +246,7 @@ private slots:
         settle();
         if (linkLost) {
             mpContext->thread.sigUsbConnectState(false);
-            QTRY_COMPARE(label("activity"), QStringLiteral("Looking for the panel..."));
+            QTRY_COMPARE(label("activity"), "Looking for the panel..."_s);
         }
         if (timedOut) {
             mpContext->hideWaitingDialog();
@@ -264,8 +254,8 @@ private slots:
         }
         receive(PanelMessage::softwareVersion());
         settle();
-        QTEST(mpContext->requests, "requests");
-        QVERIFY(label("activity") != QStringLiteral("Looking for the panel..."));
+        QCOMPARE(mpContext->requests, requests);
+        QVERIFY(label("activity") != "Looking for the panel..."_s);
     }
 
     /// What arrived before the link broke is decoded after it; more pages may have been on their way.
@@ -281,14 +271,14 @@ private slots:
         QCOMPARE(mpContext->requests, QStringList());
         receive(PanelMessage::softwareVersion());
         settle();
-        QCOMPARE(mpContext->requests, QStringList(QStringLiteral("7: 1, 1")) + ReadRequest);
+        QCOMPARE(mpContext->requests, QStringList("7: 1, 1"_s) + ReadRequest);
     }
 
     /// Else the read would bring back what the person has changed meanwhile.
     void whatThePanelHasNotTakenIsSentBeforeTheRead()
     {
         mpContext->store.createKeyAttribute(1, 1, 2, 6);
-        mpContext->store.setTitle({1, 1, 2}, QStringLiteral("kept"));
+        mpContext->store.setTitle({1, 1, 2}, "kept"_s);
         mpWidget.reset();
         {
             EditorContext lastRun(*mpContext);
@@ -300,40 +290,38 @@ private slots:
         receive(PanelMessage::hardwareVersion());
         settle();
         mpWidget->slotTimerSyncOut();
-        QCOMPARE(mpContext->requests, QStringList(QStringLiteral("1: 1 1 2, id 6")) + ReadRequest);
+        QCOMPARE(mpContext->requests, QStringList("1: 1 1 2, id 6"_s) + ReadRequest);
 
         mpContext->thread.sigUsbConnectState(false); // the request is lost with the panel
-        QTRY_COMPARE(label("activity"), QStringLiteral("Looking for the panel..."));
+        QTRY_COMPARE(label("activity"), "Looking for the panel..."_s);
         mpContext->requests.clear();
         receive(PanelMessage::softwareVersion());
         settle();
         // In the middle of a read the store may hold what the panel shows, so this time it is sent after it.
-        QCOMPARE(mpContext->requests, QStringList(QStringLiteral("7: 1, 1")) + ReadRequest);
+        QCOMPARE(mpContext->requests, QStringList("7: 1, 1"_s) + ReadRequest);
         mpContext->requests.clear();
         receive(PanelMessage::page(1, 1, 2));
         receive(PanelMessage::picture(1, 1, 1));
         receive(PanelMessage::picture(1, 1, 2));
         QTRY_COMPARE(finished("Configuration read: 2 keys on 1 pages"), 1);
-        QCOMPARE(mpContext->store.getKeyAttribute({1, 1, 2})->strTitle, QStringLiteral("kept"));
+        QCOMPARE(mpContext->store.getKeyAttribute({1, 1, 2})->strTitle, "kept"_s);
         QCOMPARE(mpContext->store.getKeyAttribute({1, 1, 2})->mFId, 6);
         QTRY_VERIFY(!mpContext->requests.isEmpty());
-        QCOMPARE(mpContext->requests.last(), QStringLiteral("1: 1 1 2, id 6"));
+        QCOMPARE(mpContext->requests.last(), "1: 1 1 2, id 6"_s);
     }
 
     void readReplacesTheKeysAndKeepsTheEditorLockedMeanwhile_data()
     {
-        QTest::addColumn<bool>("asked");
-        QTest::addColumn<bool>("whole");
-        QTest::addColumn<int>("keysLeft"); // one came, one was there before
-        QTest::newRow("whole") << true << true << 1;
-        QTest::newRow("given up") << true << false << 2;
-        QTest::newRow("page that the panel sends by itself") << false << true << 2;
+        // keysLeft: one came, one was there before
+        const ReadTable row;
+        row("whole", true, true, 1);
+        row("given up", true, false, 2);
+        row("page that the panel sends by itself", false, true, 2);
     }
 
     void readReplacesTheKeysAndKeepsTheEditorLockedMeanwhile()
     {
-        QFETCH(bool, asked);
-        QFETCH(bool, whole);
+        const auto [asked, whole, keysLeft] = ReadTable::current();
         receive(PanelMessage::softwareVersion());
         settle();
         mpContext->store.createKeyAttribute(1, 7, 9, 6);
@@ -348,10 +336,9 @@ private slots:
         else
             mpWidget->slogDealRequestId(8);
         QTRY_VERIFY(isEditable());
-        QTEST(mpContext->store.getKeys().size(), "keysLeft");
+        QCOMPARE(mpContext->store.getKeys().size(), keysLeft);
         QCOMPARE(label("activity"),
-                 whole ? QStringLiteral("Connected")
-                       : QStringLiteral("Connected. The configuration was not read to its end."));
+                 whole ? "Connected"_s : "Connected. The configuration was not read to its end."_s);
     }
 
     /// Neither the half-read store nor what the panel still showed may get onto the disk.
@@ -360,7 +347,7 @@ private slots:
         startReading();
         mpContext->store.createKeyAttribute(1, 1, 1, 6);
         mpWidget.reset();
-        mpContext->store.setTitle({1, 1, 1}, QStringLiteral("kept"));
+        mpContext->store.setTitle({1, 1, 1}, "kept"_s);
         {
             EditorContext lastRun(*mpContext);
             lastRun.edits.send({1, 1, 1}, 6, vorlinmodel::AttributeId::Title);
@@ -372,7 +359,7 @@ private slots:
         settle();
         QCOMPARE(mpContext->store.getKeyAttribute({1, 1, 1})->mFId, 5);
         mpWidget.reset();
-        QCOMPARE(mpContext->store.getKeyAttribute({1, 1, 1})->strTitle, QStringLiteral("kept"));
+        QCOMPARE(mpContext->store.getKeyAttribute({1, 1, 1})->strTitle, "kept"_s);
     }
 
     void answerDecodedAfterTheLinkBrokeDoesNotShowThePanelAsConnected()
@@ -381,24 +368,22 @@ private slots:
         receive(PanelMessage::softwareVersion());
         mpContext->thread.sigUsbConnectState(false);
         settle();
-        QCOMPARE(label("softwareVersion"), QStringLiteral("PIC Software Version: SW 3.4"));
-        QCOMPARE(label("activity"), QStringLiteral("Looking for the panel..."));
+        QCOMPARE(label("softwareVersion"), "PIC Software Version: SW 3.4"_s);
+        QCOMPARE(label("activity"), "Looking for the panel..."_s);
     }
 
     void timeOutBoxSaysWhatFailed_data()
     {
-        QTest::addColumn<int>("requestId");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("import") << 5 << QStringLiteral(u"Import failed\uFF0CPlease try again!");
-        QTest::newRow("video") << 1 << QStringLiteral(u"Import video failed\uFF0CPlease try again!");
-        QTest::newRow("read") << 8 << QStringLiteral(u"Read failed\uFF0CPlease try again!");
-        QTest::newRow("any other") << 3 << QString();
+        const TimeOutTable row;
+        row("import", 5, "Import failed\uFF0CPlease try again!");
+        row("video", 1, "Import video failed\uFF0CPlease try again!");
+        row("read", 8, "Read failed\uFF0CPlease try again!");
+        row("any other", 3, {});
     }
 
     void timeOutBoxSaysWhatFailed()
     {
-        QFETCH(int, requestId);
-        QFETCH(QString, text);
+        const auto [requestId, text] = TimeOutTable::current();
         mpContext->store.setModeFlag(true);
         mpContext->showWaitingDialog(requestId, 1);
         QTRY_COMPARE(mBoxes, QStringList(text));

@@ -1,61 +1,50 @@
 // What the main window shows and does for the person: host actions, pages, spinner, set-up.
+#include "support/table.h"
 #include "ui_editor/functionconfigwidget.h"
 #include "ui_main/waitingspinnerwidget.h"
 #include "ui_main/widget.h"
 #include "ui_main/windowstate.h"
 #include "uimainfakes.h"
 
-#include <QLabel>
-#include <QPushButton>
-#include <QScreen>
-#include <QSignalSpy>
-#include <QtTest>
+#include <QtWidgets>
 
 class tst_ui_main_window : public QObject
 {
     Q_OBJECT
+    using KeyPressTable = Table<int, QString, bool, QString, QString>;
     TemporaryCurrentDir mDir;
+
+    using StateTable = Table<int, int>;
 
 private slots:
     void keyPressIsCarriedOut_data()
     {
-        QTest::addColumn<int>("fid");
-        QTest::addColumn<QString>("command");
-        QTest::addColumn<bool>("succeeds");
-        QTest::addColumn<QString>("calls");
-        QTest::addColumn<QStringList>("log");
-        const auto row = [](const char *name, int fid, const char *command, bool succeeds, const char *calls,
-                            const char *log) {
-            QTest::newRow(name) << fid << QString::fromUtf8(command) << succeeds << QString::fromUtf8(calls)
-                                << QString::fromUtf8(log).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-        };
+        const KeyPressTable
+            row; // function, command, whether the desktop succeeds; its calls, line of the log
         row("home page", 1, "ignored", true, "url https://duckduckgo.com/;", "1 open home page ok");
         row("home page refused", 1, "", false, "url https://duckduckgo.com/;", "3 open home page fail");
-        row("file that fails", 2, "C:/My files/a b.txt", false, "file C:/My files/a b.txt;", "");
+        row("file that fails", 2, "C:/My files/a b.txt", false, "file C:/My files/a b.txt;", {});
         row("address", 3, "http://a.b/c d", true, "url http://a.b/c%20d;", "1 open http://a.b/c d ok");
         row("address refused", 3, "http://a.b/", false, "url http://a.b/;", "3 open http://a.b/ fail");
-        row("empty text", 15, "", true, "clipboard ;paste;", "");
+        row("empty text", 15, "", true, "clipboard ;paste;", {});
         row("text without an X server", 15, "Gr\u00FC\u00DFe", false, "clipboard Gr\u00FC\u00DFe;paste;",
             "2 Ctrl+V cannot be pressed here, the text stays on the clipboard");
-        row("the panel's own function", 6, "", true, "", "");
+        row("the panel's own function", 6, "", true, "", {});
     }
 
     void keyPressIsCarriedOut()
     {
-        QFETCH(int, fid);
-        QFETCH(QString, command);
-        QFETCH(bool, succeeds);
-        QFETCH(QString, calls);
+        const auto [fid, command, succeeds, calls, line] = KeyPressTable::current();
         FakeContext context;
         RecordingDesktop desktop;
         desktop.succeeds = succeeds;
         Widget window(context, desktop);
         const LogCapture capture;
         context.thread.execCommand(fid, command);
-        context.thread.execCommand(2, QStringLiteral("end"));
-        QTRY_VERIFY(desktop.calls.contains(QStringLiteral("file end")));
-        QCOMPARE(desktop.calls.join(QLatin1Char(';')), calls + QStringLiteral("file end"));
-        QTEST(capture.matching("open") + capture.matching("clipboard"), "log");
+        context.thread.execCommand(2, "end"_s);
+        QTRY_VERIFY(desktop.calls.contains("file end"_s));
+        QCOMPARE(desktop.calls.join(u';'), calls + "file end"_s);
+        QCOMPARE((capture.matching("open") + capture.matching("clipboard")).join(u';'), line);
     }
 
     void setUpStopsAtWhatIsMissing()
@@ -68,25 +57,8 @@ private slots:
         FakeContext withoutStore;
         withoutStore.hasStore = false;
         QVERIFY(!Widget(withoutStore, desktop).isReady());
-        QCOMPARE(capture.matching("setup "), QStringList({QStringLiteral("3 setup status frame error"),
-                                                          QStringLiteral("3 setup main frame error")}));
-    }
-
-    void turningAPageTellsThePanel()
-    {
-        FakeContext context;
-        RecordingDesktop desktop;
-        Widget window(context, desktop);
-        auto *editor = window.findChild<FunctionConfigWidget *>();
-        editor->onKeyboardPrevPageButtonClicked();
-        for (int page = 2; page <= 16; ++page) {
-            editor->onKeyboardNextPageButtonClicked();
-            QCOMPARE(context.requests.last(), QStringLiteral("7: 1, %1").arg(page));
-        }
-        editor->onKeyboardNextPageButtonClicked();
-        editor->onKeyboardPrevPageButtonClicked();
-        QCOMPARE(context.requests.last(), QStringLiteral("7: 1, 15"));
-        QCOMPARE(context.requests.size(), 16);
+        QCOMPARE(capture.matching("setup "),
+                 texts({"3 setup status frame error", "3 setup main frame error"}));
     }
 
     void readButtonWorksOnlyWithAPanel()
@@ -94,13 +66,12 @@ private slots:
         FakeContext context;
         RecordingDesktop desktop;
         Widget window(context, desktop);
-        auto *button = window.findChild<QPushButton *>(QStringLiteral("readDeviceConfig"));
+        auto *button = window.findChild<QPushButton *>("readDeviceConfig"_s);
         QVERIFY(!button->isEnabled());
         context.thread.sigUsbConnectState(true);
         QTRY_VERIFY(button->isEnabled());
         button->click();
-        QCOMPARE(context.requests,
-                 QStringList({QStringLiteral("dialog 8: 100000"), QStringLiteral("8: 60")}));
+        QCOMPARE(context.requests, texts({"dialog 8: 100000", "8: 60"}));
         context.hideWaitingDialog();
         QVERIFY(!button->isEnabled());
     }
@@ -114,7 +85,6 @@ private slots:
         QVERIFY(!spinner.isVisible());
 
         QSignalSpy timedOut(&spinner, &WaitingSpinnerWidget::sigRequestId);
-        const LogCapture log;
         spinner.start(5, 60000);
         QVERIFY(spinner.isVisible());
         QVERIFY(!parent.isEnabled());
@@ -122,10 +92,6 @@ private slots:
         spinner.updateShowTime(1);
         QVERIFY(timedOut.wait());
         QCOMPARE(timedOut.first().first().toInt(), 5);
-        QCOMPARE(log.matching("[5]"),
-                 QStringList({QStringLiteral("1 -----showWaitingDialog---------nRequestId=[5]"),
-                              QStringLiteral("1 --------------setShowTime-----_requestId[5]"),
-                              QStringLiteral("1 --------------stop-----_requestId[5]")}));
         QVERIFY(!spinner.isVisible());
         QVERIFY(parent.isEnabled());
 
@@ -159,17 +125,15 @@ private slots:
 
     void stateThatMakesNoSenseIsMended_data()
     {
-        QTest::addColumn<int>("layoutId");
-        QTest::addColumn<int>("pageId");
-        QTest::newRow("deleted layout") << 14 << 3;
-        QTest::newRow("page beyond the last") << 1 << 17;
-        QTest::newRow("page before the first") << 1 << 0;
+        const StateTable row;
+        row("deleted layout", 14, 3);
+        row("page beyond the last", 1, 17);
+        row("page before the first", 1, 0);
     }
 
     void stateThatMakesNoSenseIsMended()
     {
-        QFETCH(int, layoutId);
-        QFETCH(int, pageId);
+        const auto [layoutId, pageId] = StateTable::current();
         QWidget far;
         far.setGeometry(20000, 20000, 300, 200);
         saveWindowState({far.saveGeometry(), layoutId, pageId});

@@ -5,8 +5,8 @@
 #include "base/language.h"
 #include "base/logcapture.h"
 #include "model/functionmanager.h"
-#include "platform/desktop.h"
 #include "protocol/iprotocolthread.h"
+#include "support/recordingdesktop.h"
 
 #include <QTemporaryDir>
 #include <QTranslator>
@@ -20,6 +20,7 @@ public:
     void postRequest(const vorlinmodel::Request &) override {}
     void clearRequests() override {}
     bool takeRequest(vorlinmodel::Request &) override { return false; }
+    void cancelTransfer(const vorlinmodel::Request &) override {}
     bool isUpgrading() const override { return upgrading; }
     int pollingPeriod() const override { return 10; }
     void setPollingPeriod(int) override {}
@@ -44,26 +45,25 @@ public:
     void sendRequest(vorlinmodel::RequestKind kind, int layoutId, int pageId, int keyId, int,
                      int attributeId) override
     {
-        const QString ids =
-            QStringLiteral("%1: %2 %3 %4").arg(int(kind)).arg(layoutId).arg(pageId).arg(keyId);
-        requests.append(QStringLiteral("%1, id %2").arg(ids).arg(attributeId));
+        const QString ids = "%1: %2 %3 %4"_s.arg(int(kind)).arg(layoutId).arg(pageId).arg(keyId);
+        requests.append("%1, id %2"_s.arg(ids).arg(attributeId));
     }
     void sendRequest(vorlinmodel::RequestKind kind, int layoutId, int pageId) override
     {
-        requests.append(QStringLiteral("%1: %2, %3").arg(int(kind)).arg(layoutId).arg(pageId));
+        requests.append("%1: %2, %3"_s.arg(int(kind)).arg(layoutId).arg(pageId));
     }
     void sendRequest(vorlinmodel::RequestKind, const QString &, const QString &) override {}
     void sendRequest(vorlinmodel::RequestKind kind, int argument) override
     {
-        requests.append(QStringLiteral("%1: %2").arg(int(kind)).arg(argument));
+        requests.append("%1: %2"_s.arg(int(kind)).arg(argument));
     }
     void showWaitingDialog(int requestId, int showTimeMs) override
     {
-        requests.append(QStringLiteral("dialog %1: %2").arg(requestId).arg(showTimeMs));
+        requests.append("dialog %1: %2"_s.arg(requestId).arg(showTimeMs));
         emit sigShowWaitingDialog(requestId, showTimeMs);
     }
     void hideWaitingDialog() override { emit sigHideWaitingDialog(); }
-    QString fontStyle() const override { return QStringLiteral("font: 75 12pt \"Arial\";"); }
+    QString fontStyle() const override { return "font: 75 12pt \"Arial\";"_s; }
 
     QTranslator translator;
     vorlindesk::LanguageManager language{&translator};
@@ -73,30 +73,6 @@ public:
                           ///< "dialog id: time"
     bool hasLanguage = true;
     bool hasStore = true;
-};
-
-class RecordingDesktop : public vorlindesk::IDesktop
-{
-public:
-    bool openUrl(const QUrl &url) override
-    {
-        calls.append(QStringLiteral("url ") + url.toString(QUrl::FullyEncoded));
-        return succeeds;
-    }
-    bool openFile(const QString &path) override
-    {
-        calls.append(QStringLiteral("file ") + path);
-        return succeeds;
-    }
-    void setClipboardText(const QString &text) override { calls.append(QStringLiteral("clipboard ") + text); }
-    bool pressPaste() override
-    {
-        calls.append(QStringLiteral("paste"));
-        return succeeds;
-    }
-
-    QStringList calls;
-    bool succeeds = true;
 };
 
 /// A folder of its own as the current directory.

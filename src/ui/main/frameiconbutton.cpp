@@ -1,5 +1,7 @@
 #include "frameiconbutton.h"
 
+#include "ui_common/knownpicture.h"
+
 #include <QAccessibleWidget>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -59,7 +61,7 @@ QAccessibleInterface *accessibleOf(const QString &, QObject *object)
 
 FrameIconButton::FrameIconButton(const QString &name, const QString &iconPath, QWidget *parent)
     : QFrame(parent)
-    , mIcon(iconPath)
+    , mIcon(knownIcon(iconPath))
     , mpIconLabel(new QLabel(this))
     , mpTextLabel(new QLabel(this))
 {

@@ -8,6 +8,7 @@
 #include "pictureuploadpage.h"
 #include "protocol/iprotocolthread.h"
 #include "systemsettingspage.h"
+#include "ui_common/messagebox.h"
 #include "ui_common/style.h"
 #include "ui_editor/editorcontext.h"
 #include "ui_editor/functionconfigwidget.h"
@@ -21,6 +22,7 @@ using vorlindesk::LogLevel;
 namespace {
 
 constexpr int HomeText = 109;
+constexpr int HomeLayoutQuestion = 121;
 constexpr char HomeButtonStyle[] =
     "background-color: rgb(51, 51, 51);\nborder:1px solid;\nborder-radius: 2px;\nborder-color: rgb(0, 0, 0);";
 
@@ -55,6 +57,10 @@ bool MainFrame::setup()
     mpLayout->addWidget(mpFunctionConfig, 1);
     connect(mpFunctionConfig, &FunctionConfigWidget::sigIsChildrenFormChanged, this,
             &MainFrame::showHomeButton);
+    connect(&mContext.layouts, &LayoutEdits::sigLayoutsChanged, mpFunctionConfig,
+            &FunctionConfigWidget::rebuildLayouts);
+    connect(&mContext.layouts, &LayoutEdits::sigLayoutsChanged, this, &MainFrame::showHomeLayout);
+    connect(&mContext.layouts, &LayoutEdits::sigProblem, &mContext.edits, &KeyEdits::sigProblem);
     retranslate();
     return true;
 }
@@ -64,12 +70,18 @@ void MainFrame::select(int index)
     Log(LogLevel::Info, LogText::SelectPage, index);
     if (index < FunctionConfiguration || index > SystemSettings)
         return;
-    const bool leaves = mCurrentPage == FunctionConfiguration && index != FunctionConfiguration;
-    if ((!leaves || mpFunctionConfig->confirmLeave()) && build(index)) {
+    if ((index == mCurrentPage || confirmLeave()) && build(index)) {
         mCurrentPage = index;
         showCurrentPage();
     }
     emit sigPageSelected(mCurrentPage);
+}
+
+bool MainFrame::confirmLeave()
+{
+    if (mCurrentPage == FunctionConfiguration)
+        return mpFunctionConfig->confirmLeave();
+    return mCurrentPage != PanelLayout || mpLayoutPage->confirmLeave();
 }
 
 /// Makes sure that there is the page. @return false when it cannot be built.
@@ -109,12 +121,15 @@ bool MainFrame::setupLayoutPage()
     if (!take(mpLayoutPage, LogText::SetupLayoutPageError))
         return false;
     connect(mpLayoutPage, &LayoutPage::sigShowInEditor, this, &MainFrame::showInEditor);
+    connect(mpLayoutPage, &LayoutPage::sigHomeLayoutChosen, this, &MainFrame::chooseHomeLayout);
+    mpLayoutPage->setEnabled(!mReading);
+    showHomeLayout();
     return true;
 }
 
 bool MainFrame::setupPictureUploadPage()
 {
-    mpPictureUpload = new PictureUploadPage(*mContext.framework.languageManager(), this);
+    mpPictureUpload = new PictureUploadPage(mContext, this);
     if (!take(mpPictureUpload, LogText::SetupPictureUploadError))
         return false;
     connect(mpPictureUpload, &PictureUploadPage::sigGalleryChanged, this, &MainFrame::sigGalleryChanged);
@@ -124,7 +139,11 @@ bool MainFrame::setupPictureUploadPage()
 bool MainFrame::setupSystemSettingsPage()
 {
     mpSystemSettings = new SystemSettingsPage(*mContext.framework.languageManager(), mDesktop, this);
-    return take(mpSystemSettings, LogText::SetupSystemSettingsError);
+    if (!take(mpSystemSettings, LogText::SetupSystemSettingsError))
+        return false;
+    connect(mpSystemSettings, &SystemSettingsPage::sigHomeLayoutChosen, this, &MainFrame::chooseHomeLayout);
+    showHomeLayout();
+    return true;
 }
 
 QWidget *MainFrame::page(int index) const
@@ -147,6 +166,8 @@ void MainFrame::showCurrentPage()
 {
     if (mCurrentPage == PanelLayout)
         mpLayoutPage->refresh();
+    if (mCurrentPage == PictureUpload)
+        mpPictureUpload->setKey(mpFunctionConfig->currentKey());
     if (mCurrentPage == SystemSettings) {
         mpSystemSettings->refresh(mDeviceValues);
         askForBrightness();
@@ -179,23 +200,65 @@ void MainFrame::slotShowHomeLayout()
     mpFunctionConfig->returnToMain();
 }
 
+void MainFrame::takeGalleryItem(const QString &picture, const QString &video)
+{
+    if (mCurrentPage == FunctionConfiguration && mpFunctionConfig->isEnabled())
+        mpFunctionConfig->takeItem(picture, video);
+}
+
 void MainFrame::showInEditor(int layoutId)
 {
     select(FunctionConfiguration);
-    mpFunctionConfig->setKeyboardCurLayoutAndPage(layoutId, 1, true);
+    if (mCurrentPage == FunctionConfiguration) // the person may have stayed
+        mpFunctionConfig->setKeyboardCurLayoutAndPage(layoutId, 1, true);
 }
 
 void MainFrame::setReading(bool reading)
 {
     mpFunctionConfig->setEnabled(!reading);
     mpHomeButton->setEnabled(!reading);
+    mReading = reading;
+    if (mpLayoutPage)
+        mpLayoutPage->setEnabled(!reading);
 }
 
 void MainFrame::showDeviceValue(int code, const QString &value)
 {
     mDeviceValues.insert(code, value);
+    if (code == int(vorlinmodel::RequestKind::MD_FUNCTION_CODE_HOME_LAYOUT)) // the numbers are the same
+        showHomeLayout();
     if (mpSystemSettings && mCurrentPage == SystemSettings)
         mpSystemSettings->refresh(mDeviceValues);
+}
+
+void MainFrame::setConnected(bool connected)
+{
+    mConnected = connected;
+    showHomeLayout();
+}
+
+/// On every page on which it can be chosen.
+void MainFrame::showHomeLayout()
+{
+    const int layoutId =
+        deviceValue(int(vorlinmodel::RequestKind::MD_FUNCTION_CODE_HOME_LAYOUT)).toInt(); // 0: not known
+    if (mpLayoutPage)
+        mpLayoutPage->showPanel(mConnected, layoutId);
+    if (mpSystemSettings)
+        mpSystemSettings->showHomeLayout(mConnected, layoutId);
+}
+
+void MainFrame::chooseHomeLayout(int layoutId)
+{
+    const MessageBox::Question question{
+        .text = mContext.framework.languageManager()->Text(HomeLayoutQuestion),
+        .explanation = {},
+        .buttons = QMessageBox::Yes | QMessageBox::No,
+        .preset = QMessageBox::No,
+        .captions = {{QMessageBox::Yes, tr("Switch")}, {QMessageBox::No, tr("Cancel")}}};
+    if (MessageBox::question(this, question) == QMessageBox::Yes)
+        mContext.layouts.setHomeLayout(layoutId);
+    showHomeLayout(); // as the panel has it: what was chosen counts when the panel has said so
 }
 
 bool MainFrame::isTransferInProgress() const

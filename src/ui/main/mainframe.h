@@ -37,11 +37,18 @@ public:
     /// While the panel is read, which overwrites the keys, they cannot be edited.
     void setReading(bool reading);
 
+    /// Asks about what is not saved on the page in view. @return false to stay.
+    bool confirmLeave();
+
     /// Some values are asked for when they are to be seen, which takes a panel.
-    void setConnected(bool connected) { mConnected = connected; }
+    void setConnected(bool connected);
     /// Values that the panel reported, by function code: versions (3 and 4), 13, 16, 17 or 18.
     void showDeviceValue(int code, const QString &value);
     QString deviceValue(int code) const { return mDeviceValues.value(code); } ///< empty: not known
+
+    /// A person has chosen a picture or video of the gallery: it goes onto the selected key of the editor, if
+    /// that is in view.
+    void takeGalleryItem(const QString &picture, const QString &video);
 
     /// Something is under way that a version request must not disturb.
     bool isTransferInProgress() const;
@@ -66,11 +73,14 @@ private:
     void showHomeButton();
     void askForBrightness();
     void showInEditor(int layoutId);
+    void showHomeLayout();
+    void chooseHomeLayout(int layoutId);
 
     EditorContext &mContext;
     vorlindesk::IDesktop &mDesktop;
     int mCurrentPage = FunctionConfiguration;
     bool mConnected = false;
+    bool mReading = false;
     QMap<int, QString> mDeviceValues; ///< by function code
     QVBoxLayout *mpLayout;
     QPushButton *mpHomeButton;

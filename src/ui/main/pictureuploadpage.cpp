@@ -1,151 +1,222 @@
 #include "pictureuploadpage.h"
 
+#include "base/iframeworkcontext.h"
 #include "base/language.h"
-#include "model/keyface.h"
-#include "model/keypicture.h"
+#include "pictureuploadoptions.h"
+#include "ui_common/croppanel.h"
+#include "ui_common/cropview.h"
 #include "ui_common/filedialog.h"
-#include "ui_common/style.h"
+#include "ui_editor/editorcontext.h"
 #include "ui_editor/gallerypictures.h"
+#include "ui_editor/pictureedits.h"
 
-#include <QDragEnterEvent>
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
 #include <QFileInfo>
-#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QProgressBar>
 #include <QPushButton>
-#include <QVBoxLayout>
+#include <QUrl>
 
 namespace {
 
-constexpr int CaptionText = 9;
-constexpr int PromptText = 14;
 constexpr int SelectText = 15;
-constexpr int AddText = 16;
-constexpr QSize KeySize(vorlinmodel::PhysicalKeyWidth, vorlinmodel::PhysicalKeyHeight);
-constexpr int PreviewScale = 2; // the key itself is small on a large screen
+constexpr int PictureText = 86;
+constexpr int VideoText = 87;
 
-QString droppedFile(const QMimeData &data)
+/// The first of several; empty when there is none on this computer.
+QString fileOf(const QMimeData &data)
 {
     const QList<QUrl> urls = data.urls();
-    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
+    return urls.isEmpty() ? QString() : urls.first().toLocalFile();
 }
 
 } // namespace
 
-PictureUploadPage::PictureUploadPage(const vorlindesk::LanguageManager &language, QWidget *parent)
-    : QFrame(parent)
-    , mLanguage(language)
-    , mpCaption(new QLabel(this))
-    , mpPrompt(new QLabel(this))
-    , mpFile(new QLineEdit(this))
-    , mpSelect(new QPushButton(this))
-    , mpPreviewCaption(new QLabel(this))
-    , mpPreview(new QLabel(this))
-    , mpMessage(new QLabel(this))
-    , mpAdd(new QPushButton(this))
-{
-    setObjectName(QStringLiteral("pictureUploadPage"));
-    setStyleSheet(QString::fromLatin1(Style::Fields) + QString::fromLatin1(Style::Button) +
-                  QString::fromLatin1(Style::Page));
-    setAcceptDrops(true);
-    mpCaption->setObjectName(QStringLiteral("caption"));
-    mpFile->setObjectName(QStringLiteral("file"));
-    mpFile->setReadOnly(true);
-    mpSelect->setObjectName(QStringLiteral("selectPicture"));
-    mpPreview->setObjectName(QStringLiteral("preview"));
-    mpMessage->setObjectName(QStringLiteral("message"));
-    mpMessage->setTextFormat(Qt::PlainText);
-    mpMessage->setWordWrap(true);
-    mpAdd->setObjectName(QStringLiteral("addToGallery"));
-    connect(mpSelect, &QPushButton::clicked, this, &PictureUploadPage::ask);
-    connect(mpAdd, &QPushButton::clicked, this, &PictureUploadPage::addToGallery);
-}
-
-bool PictureUploadPage::setup()
-{
-    auto *body = new QGridLayout;
-    body->setHorizontalSpacing(16);
-    body->setVerticalSpacing(16);
-    body->setColumnStretch(1, 1);
-    body->addWidget(mpPrompt, 0, 0);
-    body->addWidget(mpFile, 0, 1);
-    body->addWidget(mpSelect, 0, 2);
-    body->addWidget(mpPreviewCaption, 1, 0, Qt::AlignTop | Qt::AlignLeft);
-    body->addWidget(mpPreview, 1, 1, 1, 2, Qt::AlignTop | Qt::AlignLeft);
-    body->addWidget(mpMessage, 2, 1, 1, 2);
-    body->addWidget(mpAdd, 3, 1, Qt::AlignLeft);
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(24, 20, 24, 20);
-    layout->setSpacing(24);
-    layout->addWidget(mpCaption);
-    layout->addLayout(body);
-    layout->addStretch();
-    showPreview();
-    retranslate();
-    return true;
-}
-
 void PictureUploadPage::ask()
 {
-    const QString filter = QStringLiteral("%1 (%2)").arg(
-        mLanguage.Text(86), GalleryPictures::namePatterns().join(QLatin1Char(' ')));
+    const vorlindesk::LanguageManager &language = *mContext.framework.languageManager();
+    const QString pictures = GalleryPictures::namePatterns().join(QLatin1Char(' '));
+    const QString videos = PictureEdits::videoPattern();
+    const QString filter = QStringLiteral("%1, %2 (%3 %4);;%1 (%3);;%2 (%4)")
+                               .arg(language.Text(PictureText), language.Text(VideoText), pictures, videos);
     const QString path =
-        FileDialog::openFile(this, mLanguage.Text(SelectText), QFileInfo(mPath).path(), filter);
+        FileDialog::openFile(this, language.Text(SelectText), QFileInfo(mpFile->text()).path(), filter);
     if (!path.isEmpty())
         choose(path);
 }
 
+void PictureUploadPage::paste()
+{
+    take(*QApplication::clipboard()->mimeData());
+}
+
+void PictureUploadPage::take(const QMimeData &given)
+{
+    if (mJob.isBusy())
+        return;
+    if (const QString path = fileOf(given); !path.isEmpty())
+        choose(path);
+    else if (given.hasImage())
+        takeImage(qvariant_cast<QImage>(given.imageData()));
+}
+
+/// Becomes a file like any other; without compression, which would take its time.
+void PictureUploadPage::takeImage(const QImage &image)
+{
+    const QString path = mPasted.filePath(tr("Pasted picture") + QStringLiteral(".bmp"));
+    mPaste.start([this, image, path](const std::atomic<bool> &) -> LatestTask::Delivery {
+        const bool isWritten = image.save(path, "BMP");
+        return [this, path, isWritten] {
+            if (isWritten)
+                choose(path);
+            else
+                showNothing(tr("The picture cannot be taken over: the disk may be full."));
+        };
+    });
+}
+
 void PictureUploadPage::choose(const QString &path)
 {
-    const bool isPicture = !GalleryPictures::read(path, KeySize * PreviewScale).isNull();
-    mPath = isPicture ? path : QString();
+    mVideoReader.cancel();
+    showNothing(tr("Reading the file..."));
     mpFile->setText(QDir::toNativeSeparators(path));
-    mpMessage->setText(isPicture ? QString() : tr("This file is no picture that can be read."));
-    showPreview();
+    mReader.open(path);
 }
 
-/// Drawn as on the panel, where every picture is stretched to the key.
-void PictureUploadPage::showPreview()
+void PictureUploadPage::showNothing(const QString &message)
+{
+    mPicture = {};
+    mVideo = {};
+    mpFile->clear();
+    mpOptions->setKind(PictureUploadOptions::Kind::Nothing);
+    showUse();
+    mpMessage->setText(message);
+}
+
+void PictureUploadPage::showPicture(const OpenedPicture &picture)
+{
+    using Kind = PictureUploadOptions::Kind;
+    if (picture.video)
+        return mVideoReader.open(picture.path);
+    mpMessage->setText(picture.problem);
+    mPicture = picture;
+    if (picture.problem.isEmpty())
+        mpOptions->setKind(picture.moves ? Kind::Animation : Kind::Picture);
+    showUse();
+    mpCrop->view().setFocus();
+}
+
+void PictureUploadPage::showVideo(const OpenedVideo &video)
+{
+    mpMessage->setText(video.problem);
+    mVideo = video;
+    if (video.problem.isEmpty() && mPicture.view.isNull())
+        mpOptions->setKind(PictureUploadOptions::Kind::Video);
+    showUse();
+}
+
+void PictureUploadPage::changeOptions()
+{
+    // A picture that moves is opened as a video once it shall be one.
+    if (mpOptions->usesVideo() && !mPicture.path.isEmpty() && mVideo.path != mPicture.path)
+        mVideoReader.open(mPicture.path);
+    showUse();
+}
+
+/// Puts the picture or the first frame behind the frame; the same picture stays where it was moved to.
+void PictureUploadPage::showUse()
+{
+    CropView &view = mpCrop->view();
+    const bool video = mpOptions->usesVideo();
+    const QImage &shown = video ? mVideo.frame : mPicture.view;
+    view.setTarget(video ? shown.size() : mpOptions->targetSize());
+    view.setWhole(video || mpOptions->fit() == vorlinmodel::VideoFit::Contain);
+    if (shown.cacheKey() != mShown)
+        view.setPicture(shown);
+    mShown = shown.cacheKey();
+    mpCrop->showZoom(!video);
+    refresh();
+}
+
+void PictureUploadPage::setKey(const vorlinmodel::key_id_t &key)
+{
+    mTarget.key = key;
+    refreshKey();
+}
+
+/// The key may have changed, or its name in another language.
+void PictureUploadPage::refreshKey()
+{
+    mTarget = pictureUploadTarget(mContext, mTarget.key);
+    mpOptions->setTarget(mTarget);
+    showUse();
+}
+
+void PictureUploadPage::refresh()
 {
     vorlinmodel::KeyFace face;
-    const QSize target = KeySize * PreviewScale * devicePixelRatioF();
-    face.picture = mPath.isEmpty() ? QImage() : GalleryPictures::read(mPath, target);
-    QPixmap pixmap = QPixmap::fromImage(vorlinmodel::renderKeyFace(face, KeySize, 0, target));
-    pixmap.setDevicePixelRatio(devicePixelRatioF());
-    mpPreview->setPixmap(pixmap);
-    mpAdd->setEnabled(!mPath.isEmpty());
+    if (mpOptions->isForKey())
+        face = mContext.faces.face(mTarget.key);
+    const bool video = mpOptions->usesVideo();
+    if (hasContent())
+        face.picture = video ? fittedFrame(mVideo.frame, mpOptions->settings()) : mpCrop->view().result();
+    mpOptions->showFace(face, facts());
+    showButtons();
 }
 
-void PictureUploadPage::addToGallery()
+QString PictureUploadPage::facts() const
 {
-    const GalleryPictures::Added added = GalleryPictures::add({mPath});
-    if (!added.problems.isEmpty())
-        mpMessage->setText(added.problems.join(QLatin1Char('\n')));
-    else
-        mpMessage->setText(tr("The picture is in the gallery."));
-    if (!added.paths.isEmpty())
-        emit sigGalleryChanged();
+    if (!hasContent())
+        return {};
+    return mpOptions->usesVideo() ? videoFacts(mVideo, mpOptions->settings()) : pictureFacts();
 }
 
-void PictureUploadPage::dragEnterEvent(QDragEnterEvent *event)
+QString PictureUploadPage::pictureFacts() const
 {
-    if (!droppedFile(*event->mimeData()).isEmpty())
-        event->acceptProposedAction();
+    const QRectF share = mpCrop->view().share();
+    const QSize used(qRound(share.width() * mPicture.size.width()),
+                     qRound(share.height() * mPicture.size.height()));
+    const auto pixels = [](const QString &form, QSize size) {
+        return form.arg(size.width()).arg(size.height());
+    };
+    QStringList lines{pixels(tr("%1 x %2 pixels"), mPicture.size)};
+    if (!mpCrop->view().isWhole())
+        lines.append(pixels(tr("Used: %1 x %2"), used));
+    if (used.width() < mpOptions->targetSize().width())
+        lines.append(tr("Fewer than the key has: it will look soft."));
+    return lines.join(QLatin1Char('\n'));
 }
 
-void PictureUploadPage::dropEvent(QDropEvent *event)
+void PictureUploadPage::showButtons()
 {
-    event->acceptProposedAction();
-    choose(droppedFile(*event->mimeData()));
+    const bool isBusy = mJob.isBusy();
+    const QString problem = setProblem();
+    mpAdd->setEnabled(hasContent() && !isBusy);
+    mpSet->setEnabled(hasContent() && !isBusy && problem.isEmpty());
+    mpSet->setToolTip(problem.isEmpty() ? mTarget.name : problem);
+    mpSetProblem->setText(problem);
+    mpSetProblem->setVisible(!isBusy);
+    mpProgress->setVisible(isBusy);
+    mpCancel->setVisible(isBusy);
+    for (QWidget *widget : {static_cast<QWidget *>(mpSelect), static_cast<QWidget *>(mpCrop),
+                            static_cast<QWidget *>(mpOptions)})
+        widget->setEnabled(!isBusy);
 }
 
-void PictureUploadPage::retranslate()
+bool PictureUploadPage::hasContent() const
 {
-    mpCaption->setText(mLanguage.Text(CaptionText));
-    mpPrompt->setText(mLanguage.Text(PromptText));
-    mpSelect->setText(mLanguage.Text(SelectText));
-    mpPreviewCaption->setText(tr("On a key:"));
-    mpAdd->setText(mLanguage.Text(AddText));
-    mpMessage->clear();
+    return !(mpOptions->usesVideo() ? mVideo.frame : mPicture.view).isNull();
+}
+
+/// @return why nothing can be set on the selected key; empty when it can.
+QString PictureUploadPage::setProblem() const
+{
+    const QString problem = mTarget.problem(mpOptions->usesVideo());
+    if (problem.isEmpty() && mpOptions->targetSize() != mTarget.size)
+        return tr("Choose the shape of the selected key to set it there.");
+    return problem;
 }

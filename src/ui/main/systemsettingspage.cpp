@@ -2,11 +2,14 @@
 
 #include "base/language.h"
 #include "base/paths.h"
+#include "layoutnames.h"
+#include "model/customlayouts.h"
 #include "platform/desktop.h"
 #include "ui_common/messagebox.h"
 #include "ui_common/style.h"
 #include "wire/functioncode.h"
 
+#include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -31,8 +34,11 @@ constexpr LanguageEntry Languages[] = {{0, 25}, {1, 23}, {2, 24}};
 constexpr FunctionCode Reported[] = {
     FunctionCode::MD_FUNCTION_CODE_SOFTWARE_VERSION, FunctionCode::MD_FUNCTION_CODE_HARDWARE_VERSION,
     FunctionCode::MD_FUNCTION_CODE_LCD_LIGHT,        FunctionCode::MD_FUNCTION_CODE_SYSTEM_TYPE,
-    FunctionCode::MD_FUNCTION_CODE_HOME_LAYOUT,      FunctionCode::MD_FUNCTION_CODE_CUSTOMLAYOUT_SET,
+    FunctionCode::MD_FUNCTION_CODE_CUSTOMLAYOUT_SET,
 };
+
+constexpr char HomeLayoutStyle[] = "#homeLayout {font-size: 14px;min-width: 220px;max-width: 320px;}"
+                                   "#homeLayout::drop-down {border: none;width: 20px;}";
 
 } // namespace
 
@@ -44,7 +50,8 @@ SystemSettingsPage::SystemSettingsPage(vorlindesk::LanguageManager &language, vo
     , mpCaption(new QLabel(this))
 {
     setObjectName(QStringLiteral("systemSettingsPage"));
-    setStyleSheet(QString::fromLatin1(Style::Button) + QString::fromLatin1(Style::Page));
+    setStyleSheet(QString::fromLatin1(Style::Fields) + QString::fromLatin1(Style::Button) +
+                  QString::fromLatin1(Style::Page) + QString::fromLatin1(HomeLayoutStyle));
     mpCaption->setObjectName(QStringLiteral("caption"));
 }
 
@@ -63,9 +70,12 @@ bool SystemSettingsPage::setup()
 
     mCaptions.append(new QLabel(this));
     mpRows->addRow(mCaptions.last(), languageChoice());
-    for (const char *name : {"ownVersion", "softwareVersionValue", "hardwareVersionValue", "brightness",
-                             "systemType", "homeLayout", "customLayout"})
+    for (const char *name :
+         {"ownVersion", "softwareVersionValue", "hardwareVersionValue", "brightness", "systemType"})
         mValues.append(addRow(name));
+    mCaptions.append(new QLabel(this));
+    mpRows->addRow(mCaptions.last(), homeLayoutChoice());
+    mValues.append(addRow("customLayout"));
     mCaptions.append(new QLabel(this));
     mpRows->addRow(mCaptions.last(), folderRow("openLogFolder", vorlindesk::Paths::logFolder()));
     mCaptions.append(new QLabel(this));
@@ -127,6 +137,44 @@ QWidget *SystemSettingsPage::folderRow(const char *buttonName, const QString &fo
     return row;
 }
 
+QWidget *SystemSettingsPage::homeLayoutChoice()
+{
+    mpHomeLayout = new QComboBox(this);
+    mpHomeLayout->setObjectName(QStringLiteral("homeLayout"));
+    connect(mpHomeLayout, QOverload<int>::of(&QComboBox::activated), this, [this] {
+        const int layoutId = mpHomeLayout->currentData().toInt();
+        if (layoutId != 0 && layoutId != mHomeLayout)
+            emit sigHomeLayoutChosen(layoutId);
+    });
+    return mpHomeLayout;
+}
+
+void SystemSettingsPage::showHomeLayout(bool connected, int layoutId)
+{
+    mConnected = connected;
+    mHomeLayout = layoutId;
+    fillHomeLayouts();
+}
+
+void SystemSettingsPage::fillHomeLayouts()
+{
+    constexpr int longestName = 40;
+    QVector<int> ids{StandardLayoutId};
+    ids += vorlinmodel::customLayoutIds();
+    if (mHomeLayout != 0 && !ids.contains(mHomeLayout)) // one that only the panel has
+        ids.append(mHomeLayout);
+    mpHomeLayout->clear();
+    if (mHomeLayout == 0)
+        mpHomeLayout->addItem(tr("not known yet"), 0);
+    for (const int id : qAsConst(ids)) {
+        const QString name = layoutName(id, mLanguage).simplified();
+        mpHomeLayout->addItem(name.size() <= longestName ? name : name.left(longestName) + QChar(0x2026), id);
+    }
+    mpHomeLayout->setCurrentIndex(mpHomeLayout->findData(mHomeLayout));
+    mpHomeLayout->setEnabled(mConnected);
+    mpHomeLayout->setToolTip(mConnected ? QString() : tr("The panel is not connected."));
+}
+
 void SystemSettingsPage::refresh(const QMap<int, QString> &deviceValues)
 {
     mDeviceValues = deviceValues;
@@ -156,6 +204,7 @@ void SystemSettingsPage::retranslate()
     for (int i = 0; i < mCaptions.size(); ++i)
         mCaptions.at(i)->setText(captions.value(i));
 
+    fillHomeLayouts();
     mValues.first()->setText(QCoreApplication::applicationVersion());
     for (int i = 1; i < mValues.size(); ++i) {
         const QString value = mDeviceValues.value(static_cast<int>(Reported[i - 1]));

@@ -5,6 +5,7 @@
 #include <QMap>
 #include <QVector>
 
+class QComboBox;
 class QFormLayout;
 class QLabel;
 class QPushButton;
@@ -24,9 +25,16 @@ public:
     bool setup(); ///< @return false when it cannot be built
     /// @p deviceValues as the panel reported them, by function code.
     void refresh(const QMap<int, QString> &deviceValues);
+    /// The layouts to choose from are those of the file. @p layoutId as the panel reported it; 0: not known.
+    void showHomeLayout(bool connected, int layoutId);
     void retranslate();
 
+signals:
+    void sigHomeLayoutChosen(int layoutId); ///< by the person; not confirmed yet
+
 private:
+    QWidget *homeLayoutChoice();
+    void fillHomeLayouts();
     QLabel *addRow(const char *valueName);
     QWidget *languageChoice();
     QWidget *folderRow(const char *buttonName, const QString &folder);
@@ -34,6 +42,9 @@ private:
     vorlindesk::LanguageManager &mLanguage;
     vorlindesk::IDesktop &mDesktop;
     QMap<int, QString> mDeviceValues;
+    int mHomeLayout = 0;
+    bool mConnected = false;
+    QComboBox *mpHomeLayout = nullptr;
     QFormLayout *mpRows = nullptr;
     QLabel *mpCaption;
     QVector<QLabel *> mCaptions; ///< in the order of the rows

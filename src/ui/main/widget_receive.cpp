@@ -212,9 +212,12 @@ void Widget::onHomeLayoutReceived(int layoutId)
 void Widget::onCustomLayoutReceived(const QByteArray &payload)
 {
     constexpr int longestTitle = 24;
-    if (const auto record = CustomLayoutRecord::decode(payload))
-        mpMainFrame->showDeviceValue(code(FunctionCode::MD_FUNCTION_CODE_CUSTOMLAYOUT_SET),
-                                     record->title.simplified().left(longestTitle));
+    const auto record = CustomLayoutRecord::decode(payload);
+    if (!record)
+        return;
+    mpEditor->layouts.takeFromPanel(*record);
+    mpMainFrame->showDeviceValue(code(FunctionCode::MD_FUNCTION_CODE_CUSTOMLAYOUT_SET),
+                                 record->title.simplified().left(longestTitle));
 }
 
 void Widget::onConnectState(bool connected)
@@ -241,6 +244,7 @@ void Widget::onConnectState(bool connected)
 /// The requests go out before any that reads the panel, since they are queued before it.
 void Widget::onPanelCame()
 {
+    mpEditor->layouts.sendPending(); // a panel has to know a layout before its keys
     mpEditor->edits.sendPending();
     if (!mWasConnected)
         return;

@@ -13,6 +13,7 @@
 #include "ui_editor/editorcontext.h"
 #include "ui_editor/functionconfigwidget.h"
 #include "ui_editor/galleryframe.h"
+#include "upgradedialog.h"
 #include "waitingspinnerwidget.h"
 #include "widget.h"
 #include "windowstate.h"
@@ -64,6 +65,7 @@ Widget::~Widget()
 
 bool Widget::setUp()
 {
+    mpLeftColumn = new QWidget(this);
     if (!setupStatusFrame()) {
         Log(LogLevel::Error, LogText::SetupStatusFrameError);
         return false;
@@ -85,8 +87,11 @@ bool Widget::setUp()
     connectFrames();
     connectTimers();
     IReceivedData &receiver = *this;
-    mpReceivedData =
-        std::make_unique<ReceivedDataHandler>(*mpStore, mHandOver, receiver, ReceivedDataHandler::Options());
+    ReceivedDataHandler::Options options;
+    options.clearCustomLayouts = [this] {
+        mpEditor->layouts.clearForPanel();
+    };
+    mpReceivedData = std::make_unique<ReceivedDataHandler>(*mpStore, mHandOver, receiver, options);
     if (IProtocolThread *thread = mContext.protocolThread())
         connectProtocolThread(*thread);
     restoreState();
@@ -106,13 +111,13 @@ bool Widget::setupStatusFrame()
 
 bool Widget::setupIconListFrame()
 {
-    mpIconListFrame = new GalleryFrame(*mContext.languageManager(), this);
+    mpIconListFrame = new GalleryFrame(*mContext.languageManager(), mpLeftColumn);
     return mpIconListFrame->setup();
 }
 
 bool Widget::setupFunctionTabFrame()
 {
-    mpFuncTabFrame = new FuncTabFrame(*mContext.languageManager(), this);
+    mpFuncTabFrame = new FuncTabFrame(*mContext.languageManager(), mpLeftColumn);
     return true;
 }
 
@@ -137,7 +142,6 @@ bool Widget::setupMainFrame()
 
 void Widget::layOutFrames()
 {
-    mpLeftColumn = new QWidget(this);
     auto *left = new QVBoxLayout(mpLeftColumn);
     left->setContentsMargins(0, 0, 0, 0);
     left->setSpacing(0);
@@ -160,6 +164,10 @@ void Widget::connectFrames()
     connect(mpFuncTabFrame, &FuncTabFrame::sigSelected, mpMainFrame, &MainFrame::select);
     connect(mpMainFrame, &MainFrame::sigPageSelected, mpFuncTabFrame, &FuncTabFrame::showSelected);
     connect(mpMainFrame, &MainFrame::sigGalleryChanged, mpIconListFrame, &GalleryFrame::refresh);
+    connect(mpIconListFrame, &GalleryFrame::sigItemChosen, this,
+            [this](const QString &picture, const QString &video) {
+                mpMainFrame->takeGalleryItem(picture, video);
+            });
     connect(mContext.languageManager(), &vorlindesk::LanguageManager::sigLanguageChanged, this,
             &Widget::retranslate);
     // A request to end from outside, or from the session, comes without a close event.
@@ -231,7 +239,8 @@ void Widget::saveAll()
 
 void Widget::closeEvent(QCloseEvent *event)
 {
-    if (mReady && !mpMainFrame->editor().confirmLeave()) {
+    const bool leave = HIDUpgradeDialog::confirmLeave(mContext, this);
+    if (!leave || (mReady && !mpMainFrame->confirmLeave())) {
         event->ignore();
         return;
     }
