@@ -381,10 +381,6 @@
 <context>
     <name>GalleryFrame</name>
     <message>
-        <source>Keys keep the pictures that they show.</source>
-        <translation>Keys keep the pictures that they show.</translation>
-    </message>
-    <message>
         <source>Could not be deleted:</source>
         <translation>Could not be deleted:</translation>
     </message>
@@ -423,6 +419,14 @@
     <message>
         <source>Delete %1 pictures and videos from the gallery?</source>
         <translation>Delete %1 pictures and videos from the gallery?</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot; from the gallery?</source>
+        <translation>Delete &quot;%1&quot; from the gallery?</translation>
+    </message>
+    <message>
+        <source>Keys keep the pictures that they show. A key that plays one of these videos needs its file.</source>
+        <translation>Keys keep the pictures that they show. A key that plays one of these videos needs its file.</translation>
     </message>
 </context>
 <context>
@@ -1001,6 +1005,10 @@
         <source>Some layouts in the file cannot be used as they are. Nothing of the file is lost.</source>
         <translation>Some layouts in the file cannot be used as they are. Nothing of the file is lost.</translation>
     </message>
+    <message>
+        <source>The background is still being prepared. Save when it is shown.</source>
+        <translation>The background is still being prepared. Save when it is shown.</translation>
+    </message>
 </context>
 <context>
     <name>LayoutTools</name>
@@ -1304,6 +1312,10 @@
     <message>
         <source>Sending to the panel...</source>
         <translation>Sending to the panel...</translation>
+    </message>
+    <message>
+        <source>The panel is being read just now. Try again when that is done.</source>
+        <translation>The panel is being read just now. Try again when that is done.</translation>
     </message>
 </context>
 <context>

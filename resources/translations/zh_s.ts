@@ -381,10 +381,6 @@
 <context>
     <name>GalleryFrame</name>
     <message>
-        <source>Keys keep the pictures that they show.</source>
-        <translation>按键会保留其显示的图片。</translation>
-    </message>
-    <message>
         <source>Could not be deleted:</source>
         <translation>无法删除：</translation>
     </message>
@@ -423,6 +419,14 @@
     <message>
         <source>Delete %1 pictures and videos from the gallery?</source>
         <translation>要从图库中删除 %1 个图片和视频吗？</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot; from the gallery?</source>
+        <translation>从图库中删除“%1”吗？</translation>
+    </message>
+    <message>
+        <source>Keys keep the pictures that they show. A key that plays one of these videos needs its file.</source>
+        <translation>按键会保留其显示的图片；播放这些视频的按键需要视频文件。</translation>
     </message>
 </context>
 <context>
@@ -1001,6 +1005,10 @@
         <source>Some layouts in the file cannot be used as they are. Nothing of the file is lost.</source>
         <translation>文件中的某些布局无法按原样使用。文件内容不会丢失。</translation>
     </message>
+    <message>
+        <source>The background is still being prepared. Save when it is shown.</source>
+        <translation>背景仍在准备中，请在其显示后保存。</translation>
+    </message>
 </context>
 <context>
     <name>LayoutTools</name>
@@ -1304,6 +1312,10 @@
     <message>
         <source>Sending to the panel...</source>
         <translation>正在发送到面板...</translation>
+    </message>
+    <message>
+        <source>The panel is being read just now. Try again when that is done.</source>
+        <translation>正在读取面板，请在读取完成后重试。</translation>
     </message>
 </context>
 <context>

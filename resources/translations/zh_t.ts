@@ -381,10 +381,6 @@
 <context>
     <name>GalleryFrame</name>
     <message>
-        <source>Keys keep the pictures that they show.</source>
-        <translation>按鍵會保留其顯示的圖片。</translation>
-    </message>
-    <message>
         <source>Could not be deleted:</source>
         <translation>無法刪除：</translation>
     </message>
@@ -423,6 +419,14 @@
     <message>
         <source>Delete %1 pictures and videos from the gallery?</source>
         <translation>要從圖庫中刪除 %1 個圖片和影片嗎？</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot; from the gallery?</source>
+        <translation>要從圖庫中刪除「%1」嗎？</translation>
+    </message>
+    <message>
+        <source>Keys keep the pictures that they show. A key that plays one of these videos needs its file.</source>
+        <translation>按鍵會保留其顯示的圖片；播放這些影片的按鍵需要影片檔案。</translation>
     </message>
 </context>
 <context>
@@ -1001,6 +1005,10 @@
         <source>Some layouts in the file cannot be used as they are. Nothing of the file is lost.</source>
         <translation>檔案中的某些版面無法依原樣使用。檔案內容不會遺失。</translation>
     </message>
+    <message>
+        <source>The background is still being prepared. Save when it is shown.</source>
+        <translation>背景仍在準備中，請在其顯示後儲存。</translation>
+    </message>
 </context>
 <context>
     <name>LayoutTools</name>
@@ -1304,6 +1312,10 @@
     <message>
         <source>Sending to the panel...</source>
         <translation>正在傳送到面板...</translation>
+    </message>
+    <message>
+        <source>The panel is being read just now. Try again when that is done.</source>
+        <translation>正在讀取面板，請在讀取完成後重試。</translation>
     </message>
 </context>
 <context>

@@ -23,7 +23,8 @@ QString tr(const char *text)
 /// A hand-written text with a comma in it is read as a list.
 QString textOf(const QVariant &value)
 {
-    return value.toStringList().join(QLatin1String(", "));
+    return value.type() == QVariant::StringList ? value.toStringList().join(QLatin1String(", "))
+                                                : value.toString();
 }
 
 /// First number of an item "%1#%2#%3": the physical key.
@@ -58,6 +59,9 @@ public:
         const int count = readCount();
         for (int number = 1; number <= count; ++number)
             readKey(number);
+        while (!mIsCountValid && !mReading.layout.keys.isEmpty() &&
+               mReading.layout.keys.last() == CustomLayoutKey())
+            mReading.layout.keys.removeLast();
         readBackground();
         return mReading;
     }
@@ -84,7 +88,7 @@ private:
             addProblem(tr("the number of its keys is missing"));
         else if (!mIsCountValid)
             addProblem(tr("the number of its keys is \"%1\", not 1 to 15").arg(written.left(20)));
-        return std::clamp(count, 0, LastKeyId);
+        return mIsCountValid ? count : LastKeyId; // else as many as there are
     }
 
     void readKey(int number)

@@ -1,5 +1,6 @@
 #include "model/customlayouts.h"
 
+#include "base/initext.h"
 #include "base/paths.h"
 #include "base/systemsettings.h"
 #include "customlayoutreading.h"
@@ -45,7 +46,7 @@ QString physicalKeysOf(quint32 mask)
 void writeGroup(QSettings &settings, const CustomLayout &layout)
 {
     settings.setValue(QStringLiteral("num"), layout.keys.size());
-    settings.setValue(QStringLiteral("name"), layout.name);
+    settings.setValue(QStringLiteral("name"), vorlindesk::iniText(layout.name));
     for (int number = 1; number <= layout.keys.size(); ++number) {
         const quint32 mask = layout.keys.at(number - 1).mask;
         settings.setValue(QStringLiteral("phyid_%1").arg(number), physicalKeysOf(mask));
@@ -87,6 +88,9 @@ bool changeFile(const std::function<void(QSettings &settings)> &change)
     {
         QSettings settings(copy, QSettings::IniFormat);
         settings.setIniCodec("utf-8");
+        for (const QString &key : settings.allKeys()) // of other layouts, too: the whole file is written anew
+            if (settings.value(key).type() == QVariant::String)
+                settings.setValue(key, vorlindesk::iniText(settings.value(key).toString()));
         change(settings);
         settings.sync();
         if (settings.status() == QSettings::AccessError)
@@ -108,9 +112,18 @@ QStringList problemsOf(int layoutId)
     return readCustomLayoutGroup(settings, layoutId).problems;
 }
 
+/// What the settings library does not write again: comments, and bytes that are no UTF-8.
+bool holdsMore()
+{
+    QString error;
+    const QByteArray bytes = readWholeFile(fileName(), error).value_or(QByteArray());
+    return bytes.startsWith(';') || bytes.contains("\n;") ||
+           QString::fromUtf8(bytes).contains(QChar::ReplacementCharacter);
+}
+
 bool keepWhatIsOverwritten(int layoutId)
 {
-    return problemsOf(layoutId).isEmpty() || keepCustomLayoutFile();
+    return (problemsOf(layoutId).isEmpty() && !holdsMore()) || keepCustomLayoutFile();
 }
 
 } // namespace

@@ -12,7 +12,7 @@ class LayoutGrouping;
 
 constexpr int MaxCustomLayouts = 20;
 constexpr int FirstCustomLayout = 2;     ///< 1 is the standard layout
-constexpr int LargestCustomLayout = 255; ///< travels in one byte
+constexpr int LargestCustomLayout = 254; ///< travels in one byte; 255 as a home layout is a query
 
 struct CustomLayoutKey
 {

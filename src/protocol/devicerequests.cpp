@@ -176,6 +176,7 @@ void processCustomLayoutSet(DeviceContext &context, const Request &request)
     const std::optional<CustomLayout> layout = loadCustomLayout(signedOf(request.layoutId));
     if (!layout) {
         Log(LogLevel::Error, Text::NoCustomLayout, signedOf(request.layoutId));
+        context.unreadable = true;
         return;
     }
     const QByteArray body = CustomLayoutRecord::encode(recordOf(request.layoutId, *layout));

@@ -80,7 +80,7 @@ private slots:
     void fileHoldsWhatWasSaved()
     {
         const LayoutGrouping grouping({0x63});
-        CustomLayout layout = customLayoutOf(4, "Büro, \"桌\"; 1=2"_s, grouping);
+        CustomLayout layout = customLayoutOf(4, "Büro, \"桌\"; 1=2 \U0001F600"_s, grouping);
         layout.background = "a.png"_s;
         layout.backgroundPages = {1, 16};
         layout.backgroundOnEmptyKeys = false;
@@ -102,10 +102,10 @@ private slots:
             "Layout 4: the physical keys of key 1 form no rectangle.");
         row("beyond key 15", "num=1\n1_bitmap=32768\nphyid_1=16&\n", {0},
             "Layout 4: the physical keys of key 1 form no rectangle.");
-        row("far too many", "num=1000000000\n1_bitmap=1\nphyid_1=1&\n",
-            QVector<quint32>{1} + QVector<quint32>(14, 0),
+        row("far too many", "num=1000000000\n1_bitmap=1\nphyid_1=1&\n", {1},
             "Layout 4: the number of its keys is \"1000000000\", not 1 to 15.");
-        row("no number", "name=L\n1_bitmap=1\n", {}, "Layout 4 (L): the number of its keys is missing.");
+        row("no number", "name=L\n1_bitmap=1\nphyid_1=1&\n", {1},
+            "Layout 4 (L): the number of its keys is missing.");
         row("no bitmap", "num=2\n1_bitmap=1\nphyid_1=1&\n", {1, 0}, "Layout 4: key 2 has no bitmap.");
         row("no items", "num=1\n1_bitmap=3\n", {3},
             "Layout 4: key 1 does not name its physical keys, so those of its bitmap count.");

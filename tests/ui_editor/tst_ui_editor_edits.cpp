@@ -337,6 +337,24 @@ private slots:
         QVERIFY(QFile::exists(fixture.path("devConfig/image/1_1_3.png")));
     }
 
+    void aReadLosesNoVideo()
+    {
+        EditorFixture fixture;
+        KeyEdits &edits = fixture.editor().edits;
+        for (const key_id_t &key : {Key, Other}) {
+            fixture.store.createKeyAttribute(key, vorlinmodel::VIDEO_FID);
+            fixture.store.setCustomVideo(key, "/film.avi"_s);
+        }
+        edits.beginRead();
+        for (const key_id_t &key : {Key, Other})
+            fixture.store.deleteKeyAttribute(key);
+        fixture.store.createKeyAttribute(Key, vorlinmodel::VIDEO_FID); // panels never send videos
+        fixture.store.createKeyAttribute(Other, 5);
+        edits.endRead(true, {Key, Other});
+        QCOMPARE(fixture.store.getDefaultImage(Key), "/film.avi"_s);
+        QVERIFY(fixture.store.getDefaultImage(Other) != "/film.avi"_s);
+    }
+
     void aReadKeepsWhatThePanelHasNotTaken()
     {
         EditorFixture fixture(Panel::Absent);

@@ -353,7 +353,7 @@ private slots:
         QTRY_VERIFY(item(u("new.png")).isValid()); // what was added is seen
     }
 
-    void deletingManyAsksFirst()
+    void deletingAsksFirst()
     {
         GalleryPictures::add(
             {write(u("a.png"), picture()), write(u("b.png"), picture()), write(u("c.png"), picture())});
@@ -364,11 +364,11 @@ private slots:
         child<QToolButton>("galleryDelete")->click();
         QCOMPARE(mBoxes, QStringList(u("Delete 3 pictures and videos from the gallery?")));
         QCOMPARE(names().size(), 3);
+        mAnswer = QMessageBox::Yes;
         view()->setCurrentIndex(item(u("b.png")));
         child<QToolButton>("galleryDelete")->click();
         QTRY_COMPARE(shown(), QStringList({u("a.png"), u("c.png")}));
-        QCOMPARE(mBoxes.size(), 1); // one alone is not worth a question
-        mAnswer = QMessageBox::Yes;
+        QCOMPARE(mBoxes.last(), u("Delete \"b.png\" from the gallery?"));
         child<QToolButton>("gallerySelectAll")->click();
         child<QToolButton>("galleryDelete")->click();
         QTRY_COMPARE(names(), QStringList());

@@ -165,6 +165,21 @@ private slots:
         QCOMPARE(fixture.video(), again);
     }
 
+    void everyCancelGoesBackToThePanelsVideo()
+    {
+        VideoFixture fixture;
+        const QString old = fixture.ready("old.avi", 3);
+        QVERIFY(fixture.begin(old));
+        for (const char *name : {"b.avi", "c.avi"}) {
+            fixture.videos().place(Key, fixture.ready(name, 12));
+            QVERIFY(fixture.isSending());
+            fixture.videos().cancel(Key);
+            QTRY_VERIFY(!fixture.videos().isBusy());
+            QCOMPARE(fixture.video(), old);
+        }
+        QCOMPARE(fixture.onPanel(), VideoFixture::bytesOf(old));
+    }
+
     void anotherVideoTakesThePlaceOfOneThatIsSent()
     {
         VideoFixture fixture;

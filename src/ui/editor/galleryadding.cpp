@@ -101,10 +101,10 @@ Verdict judgePicture(const QString &path)
 Verdict judge(const QString &path, const Control &control)
 {
     const vorlinmodel::PictureCheck check = vorlinmodel::checkPicture(path);
-    const bool isForeign = !check.video && GalleryFile::pictureFormat(path).isEmpty();
-    if (check.error == ConversionError::NotReadable)
+    if (check.error == ConversionError::NotReadable) // also a pipe, which must not be opened
         return refused(check.error, path);
-    if (isForeign) // the name last: it may hold a "%1" of its own
+    if (!check.video &&
+        GalleryFile::pictureFormat(path).isEmpty()) // the name last: it may hold a "%1" of its own
         return {.problem = text(QT_TRANSLATE_NOOP("GalleryPictures",
                                                   "\"%1\" is no picture or video that can be read."))
                                .replace(QLatin1String("%1"), QFileInfo(path).fileName()),

@@ -9,6 +9,7 @@
 
 #include <QClipboard>
 #include <QDragEnterEvent>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QStandardPaths>
@@ -82,12 +83,14 @@ void GalleryFrame::removeSelected()
     if (paths.isEmpty())
         return;
     MessageBox::Question question;
-    question.text = tr("Delete %1 pictures and videos from the gallery?").arg(paths.size());
-    question.explanation = tr("Keys keep the pictures that they show.");
+    question.text = paths.size() == 1
+                        ? tr("Delete \"%1\" from the gallery?").arg(QFileInfo(paths.first()).fileName())
+                        : tr("Delete %1 pictures and videos from the gallery?").arg(paths.size());
+    question.explanation =
+        tr("Keys keep the pictures that they show. A key that plays one of these videos needs its file.");
     question.buttons = QMessageBox::Yes | QMessageBox::No;
     question.preset = QMessageBox::No;
-    // A single file is in the system's bin, and quickly brought back.
-    if (paths.size() == 1 || MessageBox::question(this, question) == QMessageBox::Yes)
+    if (MessageBox::question(this, question) == QMessageBox::Yes)
         mpLibrary->remove(paths);
 }
 

@@ -8,6 +8,8 @@
 #include <QCoreApplication>
 #include <QDataStream>
 #include <QDropEvent>
+#include <QFileInfo>
+#include <QImageReader>
 #include <QMimeData>
 #include <QUrl>
 
@@ -63,12 +65,17 @@ std::optional<key_id_t> KeyDrag::keyOf(const QMimeData &data)
     return isKey ? std::make_optional(key) : std::nullopt;
 }
 
-QString KeyDrag::pictureFileOf(const QMimeData &data, EditorContext &context)
+QString KeyDrag::pictureFileOf(const QMimeData &data)
 {
     if (!data.hasUrls() || data.urls().size() != 1)
         return {};
     const QString path = data.urls().constFirst().toLocalFile();
-    return context.faces.picture(path).isNull() ? QString() : path;
+    // The head of the file is enough: this is asked with every move of the mouse.
+    if (!QFileInfo(path).isFile())
+        return {};
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    return reader.canRead() ? path : QString();
 }
 
 bool KeyDrag::isCopy(const QDropEvent &event)

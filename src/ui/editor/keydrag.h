@@ -9,7 +9,6 @@
 class KeyEdits;
 class QDropEvent;
 class QMimeData;
-struct EditorContext;
 
 namespace KeyDrag {
 
@@ -23,7 +22,7 @@ std::optional<vorlinmodel::key_id_t> keyOf(const QMimeData &data);
 
 /// @return the path of the one picture file that is dragged; empty when it is none, several, or cannot be
 /// read.
-QString pictureFileOf(const QMimeData &data, EditorContext &context);
+QString pictureFileOf(const QMimeData &data);
 
 /// Whether the drag copies: with Ctrl, or when its source offers nothing else.
 bool isCopy(const QDropEvent &event);

@@ -66,7 +66,7 @@ KeyEdits::KeyEdits(vorlindesk::IFrameworkContext &context, QObject *parent)
             [this] { emit sigProblem(tr("The keys could not be saved. Is the disk full?")); });
     if (IProtocolThread *thread = context.protocolThread())
         connectProtocolThread(*thread);
-    mFiles.load(); // what cannot be read is kept aside, and is in the log
+    mIsLoaded = mFiles.load(); // what cannot be read is kept aside, and is in the log
 }
 
 KeyEdits::~KeyEdits()
@@ -94,6 +94,8 @@ void KeyEdits::requestDone(const key_id_t &key, AttributeId attribute, RequestOu
     mPending.done(key, attribute, outcome);
     if (attribute == AttributeId::Video)
         videoDone(key, outcome);
+    else if (attribute == AttributeId::ClearKey || attribute == AttributeId::FunctionId)
+        videoIsGone(key, outcome);
     if (mPending.isOnDisk() || outcome != RequestOutcome::Sent)
         mFiles.touch();
 }
@@ -180,7 +182,7 @@ void KeyEdits::apply(const QVector<KeyPlacement> &wanted)
     for (const KeyPlacement &placement : placements) {
         setRecord(placement, now.value(placement.key));
         for (const AttributeId attribute : attributesToRestore(now.value(placement.key), placement.state)) {
-            if (attribute == AttributeId::Video)
+            if (attribute == AttributeId::Video && !mIsSilent)
                 noteReplacedVideo(placement.key, withVideoOf(now.value(placement.key), placement.state));
             send(placement.key, placement.state.fid(), attribute);
         }

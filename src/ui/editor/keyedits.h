@@ -90,12 +90,17 @@ public:
     void endRead(bool whole, const QVector<vorlinmodel::key_id_t> &received);
 
     bool saveNow() { return mFiles.saveNow(); } ///< @return false when a file could not be written
+    /// False when the records of the last run could not be read: files may belong to keys that this run does
+    /// not know.
+    bool isLoaded() const { return mIsLoaded; }
+    bool isReading() const { return mReading; } ///< between beginRead() and endRead()
 
 signals:
     /// Keys that look or act differently now, whatever changed them.
     void sigKeysChanged(const QVector<vorlinmodel::key_id_t> &keys);
     /// The keys that undo or redo changed: they should come into view.
     void sigStepApplied(const QVector<vorlinmodel::key_id_t> &keys);
+    void sigReadEnded();                                   ///< the store is the person's again
     void sigMarkChanged(const vorlinmodel::key_id_t &key); ///< see pending()
     void sigProblem(const QString &text);                  ///< for the person, in plain words
 
@@ -122,10 +127,12 @@ private:
     void setRecord(const KeyPlacement &placement, const KeyState &now);
     void noteReplacedVideo(const vorlinmodel::key_id_t &key, const KeyState &before);
     void videoDone(const vorlinmodel::key_id_t &key, vorlinmodel::RequestOutcome outcome);
+    void videoIsGone(const vorlinmodel::key_id_t &key, vorlinmodel::RequestOutcome outcome);
     void takeVideoBack(const vorlinmodel::key_id_t &key, const KeyState &before);
     bool walkHistoryBack(const vorlinmodel::key_id_t &key, const KeyState &now, const KeyState &wanted);
     void keepUntakenEdits();
     void bringPicturesBack();
+    void bringVideosBack();
     void recordRead();
     void removeKeysThatAreGone(const QVector<vorlinmodel::key_id_t> &received);
 
@@ -138,6 +145,7 @@ private:
     States mBefore; ///< of the outermost one
     std::optional<AtRest> mAtRest;
     States mReplacedVideos; ///< keys before the video that the panel has not taken whole yet
+    bool mIsLoaded = false; ///< the records of the last run
     bool mIsSilent = false; ///< the store goes back to what the panel has: nothing is sent
     QTimer mRestTimer;
     States mBeforeRead;

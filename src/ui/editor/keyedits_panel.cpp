@@ -67,12 +67,14 @@ void KeyEdits::endRead(bool whole, const QVector<key_id_t> &received)
     if (whole)
         removeKeysThatAreGone(received);
     bringPicturesBack();
+    bringVideosBack();
     recordRead();
     mBeforeRead.clear();
     mFiles.touch();
     mFiles.resume();
     if (mSendAfterRead)
         sendPending();
+    emit sigReadEnded();
 }
 
 /// The read has overwritten them with what the panel still shows.
@@ -97,6 +99,16 @@ void KeyEdits::bringPicturesBack()
         if (record && record->customImage == entry->record->customImage &&
             !QFile::exists(record->customImage))
             setRecord({entry.key(), *entry}, {});
+    }
+}
+
+/// The panel never sends its videos back; a key for videos still plays what it was sent last.
+void KeyEdits::bringVideosBack()
+{
+    for (auto entry = mBeforeRead.cbegin(); entry != mBeforeRead.cend(); ++entry) {
+        const auto now = mStore.getKeyAttribute(entry.key());
+        if (now && now->mFId == entry->fid() && entry->record && isVideo(*entry->record) && !isVideo(*now))
+            mStore.setCustomVideo(entry.key(), entry->record->defaultImage);
     }
 }
 

@@ -33,6 +33,13 @@ void KeyEdits::videoDone(const key_id_t &key, RequestOutcome outcome)
     takeVideoBack(key, state);
 }
 
+/// With the key's function went the video that the panel had.
+void KeyEdits::videoIsGone(const key_id_t &key, RequestOutcome outcome)
+{
+    if (outcome == RequestOutcome::Sent)
+        mReplacedVideos.remove(key);
+}
+
 void KeyEdits::takeVideoBack(const key_id_t &key, const KeyState &before)
 {
     flush();

@@ -12,6 +12,12 @@ using vorlinmodel::AttributeId;
 using vorlinmodel::key_atttribute_t;
 using vorlinmodel::key_id_t;
 
+bool isVideo(const key_atttribute_t &record)
+{
+    return record.mFId == vorlinmodel::VIDEO_FID && !record.defaultImage.isEmpty() &&
+           !record.defaultImage.startsWith(QLatin1Char(':'));
+}
+
 namespace {
 
 constexpr qint64 LargestPicture = 32 * 1024 * 1024;
@@ -45,12 +51,6 @@ key_atttribute_t defaultsOf(int fid)
     record.titleFontSize = 16;
     record.titleColour = QColor(0, 255, 0);
     return record;
-}
-
-bool isVideo(const key_atttribute_t &record)
-{
-    return record.mFId == vorlinmodel::VIDEO_FID && !record.defaultImage.isEmpty() &&
-           !record.defaultImage.startsWith(QLatin1Char(':'));
 }
 
 bool samePicture(const KeyState &left, const KeyState &right)

@@ -40,6 +40,9 @@ KeyState captureKeyState(const vorlinmodel::IFunctionManager &store, const vorli
 QMap<vorlinmodel::key_id_t, KeyState> captureKeyStates(const vorlinmodel::IFunctionManager &store,
                                                        const QVector<vorlinmodel::key_id_t> &keys);
 
+/// Whether the key plays a video, whose path then stands in the field of its default image.
+bool isVideo(const vorlinmodel::key_atttribute_t &record);
+
 /// Equal for the person and the panel: own pictures count by content, not by where their file lies.
 bool sameKey(const KeyState &left, const KeyState &right);
 

@@ -82,10 +82,13 @@ void KeyWidget::takePicture(const QString &picture, const QString &video)
         Log(LogLevel::Info, EditorLogText::DropPicture, qUtf8Printable(picture));
         return;
     }
+    const bool isVideo = mFId == vorlinmodel::VIDEO_FID && !video.isEmpty();
+    if (isVideo)
+        mContext.videos.cancel(key_id_); // an older one would replace it when its conversion ends
     mContext.edits.change(video.isEmpty() ? tr("Picture") : tr("Video"), {key_id_}, [&] {
-        const bool isVideo = mFId == vorlinmodel::VIDEO_FID && !video.isEmpty();
         if (mFId != 0) {
-            mContext.edits.store().setCustomImage(key_id_, picture);
+            if (!picture.isEmpty()) // a video of which no frame is known has none
+                mContext.edits.store().setCustomImage(key_id_, picture);
             if (!isVideo)
                 mContext.edits.send(key_id_, mFId, AttributeId::Image);
         }

@@ -117,7 +117,7 @@ bool KeyWidget::accepts(const QDropEvent &event) const
             return true;
     }
     // The drag of another program: which buttons are held is its affair.
-    return mFId != 0 && !KeyDrag::pictureFileOf(mime, mContext).isEmpty();
+    return mFId != 0 && !KeyDrag::pictureFileOf(mime).isEmpty();
 }
 
 void KeyWidget::answer(QDropEvent &event) const
@@ -156,14 +156,15 @@ void KeyWidget::dropEvent(QDropEvent *event)
     if (holds(mime, DragFormat::FunctionIcon)) {
         vorlindesk::VorlinMimeData pair;
         pair.load(mime, QString::fromLatin1(DragFormat::FunctionIcon));
-        if (pair.strData1.isEmpty() && pair.strData2.isEmpty()) // foreign bytes
+        const bool isVideo = mFId == vorlinmodel::VIDEO_FID && !pair.strData2.isEmpty();
+        if (pair.strData1.isEmpty() && !isVideo) // foreign bytes, or a video of which no frame is known
             return event->ignore();
         event->setAccepted(mFId != 0);
         return takePicture(pair.strData1, pair.strData2);
     }
     if (const auto source = KeyDrag::keyOf(mime))
         return KeyDrag::dropKey(mContext.edits, *source, key_id_, KeyDrag::isCopy(*event));
-    const QString file = KeyDrag::pictureFileOf(mime, mContext);
+    const QString file = KeyDrag::pictureFileOf(mime);
     if (mFId != 0 && !file.isEmpty())
         return takePicture(file, {});
     event->ignore();

@@ -7,6 +7,8 @@
 #include "model/layoutgrouping.h"
 #include "protocol/iprotocolthread.h"
 
+#include <algorithm>
+
 using vorlinmodel::CustomLayout;
 using vorlinmodel::IProtocolThread;
 using vorlinmodel::key_id_t;
@@ -31,7 +33,9 @@ CustomLayout completed(const CustomLayout &wanted, const std::optional<CustomLay
     CustomLayout layout = vorlinmodel::customLayoutOf(wanted.layoutId, wanted.name, grouping);
     if (!before)
         return layout;
-    if (groupingOf(*before) == grouping && before->keys.size() == layout.keys.size())
+    const bool isWhole = std::none_of(before->keys.cbegin(), before->keys.cend(),
+                                      [](const vorlinmodel::CustomLayoutKey &key) { return key.mask == 0; });
+    if (isWhole && groupingOf(*before) == grouping && before->keys.size() == layout.keys.size())
         layout.keys = before->keys;
     layout.background = before->background;
     layout.backgroundPages = before->backgroundPages;

@@ -66,6 +66,7 @@ public:
     /// now; what the panel has not, and has been told of, goes once no more comes for ReadRest.
     void clearForPanel();
     void takeFromPanel(const CustomLayoutRecord::Record &record);
+    void linkLost(); ///< no more will come
 
     static constexpr int ReadRest = 1000; ///< ms
 

@@ -1,10 +1,13 @@
 // Custom layouts and the panel: what it has not taken, and what it sends.
 #include "base/iframeworkcontext.h"
+#include "base/paths.h"
 #include "keyedits.h"
 #include "layoutedits.h"
 #include "model/layoutgrouping.h"
 #include "wire/customlayout.h"
 #include "wire/textcodec.h"
+
+#include <QFileInfo>
 
 using vorlinmodel::CustomLayout;
 using vorlinmodel::CustomLayoutKey;
@@ -77,12 +80,16 @@ bool LayoutEdits::isPending(int layoutId) const
 void LayoutEdits::requestDone(int layoutId, bool taken)
 {
     mPending.done(layoutId, taken);
+    if (taken)
+        mUnseen.remove(layoutId); // the panel has it now
     emit sigPendingChanged();
 }
 
 void LayoutEdits::post(int layoutId)
 {
-    const bool isThere = vorlinmodel::loadCustomLayout(layoutId).has_value();
+    const QFileInfo file(vorlindesk::Paths::customLayoutIni());
+    const bool isUnreadable = file.exists() && !file.isReadable(); // then it is not deleted
+    const bool isThere = isUnreadable || vorlinmodel::loadCustomLayout(layoutId).has_value();
     mPending.posted(layoutId);
     mEdits.context().sendRequest(isThere ? RequestKind::MD_FUNCTION_CODE_CUSTOMLAYOUT_SET
                                          : RequestKind::MD_FUNCTION_CODE_CUSTOMLAYOUT_DEL,
@@ -110,7 +117,8 @@ void LayoutEdits::clearForPanel()
     }
     mUnseen.clear();
     for (const int layoutId : vorlinmodel::customLayoutIds()) {
-        if (const auto layout = vorlinmodel::loadCustomLayout(layoutId))
+        const auto layout = vorlinmodel::loadCustomLayout(layoutId);
+        if (layout && !mPending.contains(layoutId))
             mUnseen.insert(layoutId, *layout);
     }
     mReadRest.start();
@@ -120,6 +128,7 @@ void LayoutEdits::takeFromPanel(const CustomLayoutRecord::Record &record)
 {
     if (mReadRest.isActive())
         mReadRest.start();
+    mUnseen.remove(record.layoutNumber); // also when it is left out below: then ours stays
     const auto sent = layoutOf(record);
     if (!sent) {
         emit sigProblem(
@@ -132,13 +141,19 @@ void LayoutEdits::takeFromPanel(const CustomLayoutRecord::Record &record)
         return;
     const auto ours = vorlinmodel::loadCustomLayout(layoutId);
     const CustomLayout layout = completedBy(*sent, ours);
-    mUnseen.remove(layoutId);
     if (ours == layout)
         return;
     if (vorlinmodel::saveCustomLayout(layout))
         emit sigLayoutsChanged();
     else
         emit sigProblem(tr("The layout could not be saved. Is the disk full?"));
+}
+
+/// What it has not sent is not gone.
+void LayoutEdits::linkLost()
+{
+    mReadRest.stop();
+    mUnseen.clear();
 }
 
 /// The panel has sent all its layouts.

@@ -1,6 +1,7 @@
 #include "videokind.h"
 
 #include "model/avifile.h"
+#include "model/picturecheck.h"
 #include "model/videoconversion.h"
 
 #include <QFile>
@@ -40,5 +41,5 @@ VideoKind videoKind(const QString &path, const QSize &size)
     const auto video = vorlinmodel::readAviInfo(head, file.size());
     if (video && isReady(*video, size, file.size()))
         return VideoKind::Ready;
-    return isForeign(head) ? VideoKind::Foreign : VideoKind::Unknown;
+    return isForeign(head) || vorlinmodel::checkPicture(path).video ? VideoKind::Foreign : VideoKind::Unknown;
 }

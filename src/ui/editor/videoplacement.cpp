@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QPointer>
 #include <algorithm>
+#include <vector>
 
 using vorlinmodel::AttributeId;
 using vorlinmodel::IProtocolThread;
@@ -27,6 +28,7 @@ VideoPlacement::VideoPlacement(KeyEdits &edits, QObject *parent)
     vorlindesk::IFrameworkContext &context = edits.context();
     if (IProtocolThread *thread = context.protocolThread())
         connectProtocolThread(*thread);
+    connect(&edits, &KeyEdits::sigReadEnded, this, &VideoPlacement::putWaiting);
     connect(&context, &vorlindesk::IFrameworkContext::sigShowWaitingDialog, this, [this](int request) {
         mIsWaitingShown = request == int(RequestKind::MD_FUNCTION_CODE_KEY_ATTRIBUTE);
     });
@@ -37,7 +39,8 @@ VideoPlacement::VideoPlacement(KeyEdits &edits, QObject *parent)
 VideoPlacement::~VideoPlacement()
 {
     mpQueue.reset();
-    VideoFiles::removeUnused(mEdits.store());
+    if (mEdits.isLoaded() && mEdits.saveNow()) // else the disk knows keys that the store does not
+        VideoFiles::removeUnused(mEdits.store());
 }
 
 VideoPlacement::Job *VideoPlacement::jobOf(const key_id_t &key, State state)
@@ -64,8 +67,8 @@ VideoPlacement::Job &VideoPlacement::add(const key_id_t &key, const QString &sou
     return mJobs.back();
 }
 
-void VideoPlacement::place(const key_id_t &key, const QString &source, const QString &picture,
-                           vorlinmodel::VideoFit fit, bool mayCut)
+int VideoPlacement::place(const key_id_t &key, const QString &source, const QString &picture,
+                          vorlinmodel::VideoFit fit, bool mayCut)
 {
     const auto record = mEdits.store().getKeyAttribute(key);
     if (record && record->mFId == vorlinmodel::VIDEO_FID)
@@ -74,12 +77,14 @@ void VideoPlacement::place(const key_id_t &key, const QString &source, const QSt
     job.picture = picture;
     job.fit = fit;
     job.mayCut = mayCut;
+    const int number = job.number; // the job may end below
     if (!record || record->mFId != vorlinmodel::VIDEO_FID)
-        return finish(job, tr("Key %1 does not play videos.").arg(key.kid), false);
-    if (videoKind(source, vorlinmodel::keyPixelSize(key)) == VideoKind::Ready)
+        finish(job, tr("Key %1 does not play videos.").arg(key.kid), false);
+    else if (videoKind(source, vorlinmodel::keyPixelSize(key)) == VideoKind::Ready)
         arrive(job);
     else
         convert(job);
+    return number;
 }
 
 void VideoPlacement::convert(Job &job)
@@ -95,6 +100,9 @@ void VideoPlacement::convert(Job &job)
     const vorlinmodel::VideoSettings settings{
         .size = vorlinmodel::keyPixelSize(job.key), .mayCut = job.mayCut, .fit = job.fit};
     job.all = 100;
+    job.state = State::Converting;
+    job.original = job.source;
+    job.size = settings.size;
     job.conversion = mpQueue->add({.source = job.source, .video = settings});
     emit sigActivity();
 }
@@ -151,11 +159,25 @@ void VideoPlacement::offerCut(int number, const QString &reason)
 void VideoPlacement::arrive(Job &job)
 {
     job.done = job.all = 0;
-    if (mEdits.pending().isUnderWay(job.key, AttributeId::Video)) {
+    // A read of the panel would overwrite it in the store.
+    if (mEdits.isReading() || mEdits.pending().isUnderWay(job.key, AttributeId::Video)) {
         job.state = State::Waiting;
         emit sigActivity();
     } else {
         put(job);
+    }
+}
+
+void VideoPlacement::putWaiting()
+{
+    std::vector<key_id_t> keys; // put() changes the list
+    for (const Job &job : mJobs) {
+        if (job.state == State::Waiting)
+            keys.push_back(job.key);
+    }
+    for (const key_id_t &key : keys) {
+        if (Job *job = jobOf(key, State::Waiting))
+            arrive(*job);
     }
 }
 
@@ -178,12 +200,14 @@ void VideoPlacement::finish(const Job &finished, const QString &problem, bool ca
                                   [&finished](const Job &each) { return each.number == finished.number; });
     const key_id_t key = job->key;
     const bool isPlaced = job->isPlaced;
+    const int number = job->number;
     mJobs.erase(job);
     emit sigActivity();
     if (!problem.isEmpty())
         emit sigProblem(problem);
     if (isPlaced)
-        mHandOver.post([this, key, problem, cancelled] { emit sigFinished(key, problem, cancelled); });
+        mHandOver.post(
+            [this, key, problem, cancelled, number] { emit sigFinished(key, problem, cancelled, number); });
 }
 
 void VideoPlacement::tellProgress(const Job &job)

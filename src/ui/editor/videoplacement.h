@@ -52,8 +52,9 @@ public:
     /// gets converted first, one after the other. @p picture is shown on the screen until the first frame is
     /// known; may be empty. @p mayCut: the end may be left out when the whole does not fit; else the person
     /// is asked then. A second video for the same key takes the place of one that is not sent yet.
-    void place(const vorlinmodel::key_id_t &key, const QString &source, const QString &picture = {},
-               vorlinmodel::VideoFit fit = vorlinmodel::VideoFit::Contain, bool mayCut = false);
+    /// @return a number that sigFinished repeats.
+    int place(const vorlinmodel::key_id_t &key, const QString &source, const QString &picture = {},
+              vorlinmodel::VideoFit fit = vorlinmodel::VideoFit::Contain, bool mayCut = false);
     /// Ends the conversion, or the transfer between two blocks; the key is then as it was before.
     void cancel(const vorlinmodel::key_id_t &key);
     bool isBusy() const { return !mJobs.empty(); } ///< something is converted, or sent to a panel
@@ -65,7 +66,7 @@ signals:
     void sigProgress(const vorlinmodel::key_id_t &key, VideoPlacement::Stage stage, int percent);
     /// Once for each place(), never before that returns. @p problem is for the person; empty when the video
     /// is on the key, or @p cancelled. Without a panel it is on the key, and waits.
-    void sigFinished(const vorlinmodel::key_id_t &key, const QString &problem, bool cancelled);
+    void sigFinished(const vorlinmodel::key_id_t &key, const QString &problem, bool cancelled, int number);
     void sigActivity();                   ///< activity() has changed
     void sigNotice(const QString &text);  ///< for the person
     void sigProblem(const QString &text); ///< the same, of something that went wrong
@@ -74,7 +75,7 @@ private:
     struct Job;
     enum class State {
         Converting,
-        Waiting, ///< for the end of a transfer to the same key
+        Waiting, ///< for the end of a transfer to the same key, or of a read
         Sending,
     };
     using Jobs = std::list<Job>;
@@ -88,6 +89,7 @@ private:
     void onConverted(int conversion, const vorlinmodel::ConversionResult &result);
     void offerCut(int number, const QString &reason);
     void arrive(Job &job);
+    void putWaiting();
     void put(Job &job);
     void onTransferProgress(const vorlinmodel::key_id_t &key, int sentBlocks, int allBlocks);
     void onTransferDone(const vorlinmodel::key_id_t &key, vorlinmodel::RequestOutcome outcome);

@@ -3,12 +3,16 @@
 
 #include "videoplacement.h"
 
+#include <QSize>
+
 struct VideoPlacement::Job
 {
     int number = 0;
     vorlinmodel::key_id_t key;
     QString source; ///< after the conversion, its result
     QString name;
+    QString original = {}; ///< of a conversion
+    QSize size = {};       ///< pixels that it made
     State state = State::Converting;
     bool isPlaced = true; ///< by place(); else only followed
     QString picture = {};

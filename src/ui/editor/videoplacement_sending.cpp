@@ -3,6 +3,7 @@
 #include "keyedits.h"
 #include "model/functionids.h"
 #include "model/ifunctionmanager.h"
+#include "model/keypicture.h"
 #include "pictureedits.h"
 #include "protocol/iprotocolthread.h"
 #include "videofiles.h"
@@ -73,6 +74,11 @@ void VideoPlacement::put(Job &job)
     const auto record = mEdits.store().getKeyAttribute(job.key);
     if (!record || record->mFId != vorlinmodel::VIDEO_FID) // it was given another one meanwhile
         return finish(job, tr("Key %1 does not play videos.").arg(job.key.kid), false);
+    // Its layout was changed meanwhile.
+    if (!job.original.isEmpty() && job.size != vorlinmodel::keyPixelSize(job.key)) {
+        job.source = job.original;
+        return convert(job);
+    }
     announce(job.source, job.isCut);
     const QString problem = PictureEdits::setVideo(mEdits, job.key, job.source, job.picture);
     if (!problem.isEmpty() || !mEdits.context().protocolThread())
@@ -114,7 +120,7 @@ void VideoPlacement::onTransferDone(const key_id_t &key, RequestOutcome outcome)
         finish(*job, problem.replace(QLatin1String("%1"), job->name), outcome == RequestOutcome::Cancelled);
     }
     if (Job *next = jobOf(key, State::Waiting))
-        put(*next);
+        arrive(*next);
 }
 
 void VideoPlacement::cancelTransfer(const key_id_t &key)

@@ -63,6 +63,7 @@ private:
     void undo();
     void redo();
     bool save();
+    void refreshHalfSaved();
     QString store();
     bool confirmLoss();
     bool hasRoom();

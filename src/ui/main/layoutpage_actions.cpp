@@ -197,6 +197,10 @@ bool LayoutPage::save()
         mpTitle->focusField();
         return false;
     }
+    if (mpBackground->isBusy()) {
+        MessageBox::warn(this, tr("The background is still being prepared. Save when it is shown."));
+        return false;
+    }
     if (!confirmLoss())
         return false;
     mIsSaving = true;
@@ -205,10 +209,18 @@ bool LayoutPage::save()
     if (problem.isEmpty())
         load(mDraft.layoutId());
     else
-        refresh(); // some of it may be there
+        refreshHalfSaved();
     if (!problem.isEmpty())
         MessageBox::warn(this, problem);
     return problem.isEmpty();
+}
+
+/// The layout itself may be there, without its background.
+void LayoutPage::refreshHalfSaved()
+{
+    if (vorlinmodel::loadCustomLayout(mDraft.layoutId()))
+        mDraft.setStored(storedLayout(mDraft.layoutId()));
+    refresh();
 }
 
 /// @return what went wrong; empty when everything is stored.

@@ -64,7 +64,8 @@ void PictureUploadJob::start(const PictureUploadOrder &order)
         mReader.crop(order.source, order.share, order.size);
     } else if (order.isForKey()) {
         mPlacing = true;
-        mContext.videos.place(order.key, order.source, {}, order.video->fit, order.video->mayCut);
+        mPlacement =
+            mContext.videos.place(order.key, order.source, {}, order.video->fit, order.video->mayCut);
     } else {
         convert({.source = order.source, .size = order.size, .video = order.video});
     }
@@ -132,6 +133,8 @@ void PictureUploadJob::addToGallery(const QString &path, const PictureUploadOutc
 
 QString PictureUploadJob::setOnKey(const QString &path)
 {
+    if (mContext.edits.isReading()) // which would overwrite it
+        return tr("The panel is being read just now. Try again when that is done.");
     QString problem;
     const auto bytes = vorlinmodel::readWholeFile(path, problem);
     const QString kept = bytes ? StoreFiles::keepPicture(*bytes) : QString();
@@ -153,9 +156,9 @@ void PictureUploadJob::showPlacement(const vorlinmodel::key_id_t &key, VideoPlac
 }
 
 void PictureUploadJob::finishPlacement(const vorlinmodel::key_id_t &key, const QString &problem,
-                                       bool cancelled)
+                                       bool cancelled, int number)
 {
-    if (!mPlacing || key != mOrder.key)
+    if (!mPlacing || key != mOrder.key || number != mPlacement)
         return;
     mPlacing = false;
     finish({.problem = problem, .cancelled = cancelled});

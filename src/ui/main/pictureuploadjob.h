@@ -50,7 +50,8 @@ private:
     void convertPart(const QImage &part, const QString &problem);
     void convert(const vorlinmodel::ConversionJob &job);
     void finishConversion(int id, const vorlinmodel::ConversionResult &result);
-    void finishPlacement(const vorlinmodel::key_id_t &key, const QString &problem, bool cancelled);
+    void finishPlacement(const vorlinmodel::key_id_t &key, const QString &problem, bool cancelled,
+                         int number);
     void showPlacement(const vorlinmodel::key_id_t &key, VideoPlacement::Stage stage, int percent);
     void addToGallery(const QString &path, const PictureUploadOutcome &outcome);
     QString setOnKey(const QString &path);
@@ -64,5 +65,6 @@ private:
     PictureUploadOrder mOrder;
     int mConversion = 0; ///< its number in the queue; 0: none
     bool mPlacing = false;
+    int mPlacement = 0; ///< number of the video that is being placed
     bool mBusy = false;
 };

@@ -67,7 +67,10 @@ void PictureUploadPage::take(const QMimeData &given)
 /// Becomes a file like any other; without compression, which would take its time.
 void PictureUploadPage::takeImage(const QImage &image)
 {
-    const QString path = mPasted.filePath(tr("Pasted picture") + QStringLiteral(".bmp"));
+    // Each into a folder of its own: one that was pasted before may still be read.
+    const QString folder = mPasted.filePath(QString::number(++mPastes));
+    QDir().mkpath(folder);
+    const QString path = QStringLiteral("%1/%2.bmp").arg(folder, tr("Pasted picture"));
     mPaste.start([this, image, path](const std::atomic<bool> &) -> LatestTask::Delivery {
         const bool isWritten = image.save(path, "BMP");
         return [this, path, isWritten] {
@@ -81,6 +84,7 @@ void PictureUploadPage::takeImage(const QImage &image)
 
 void PictureUploadPage::choose(const QString &path)
 {
+    mPaste.cancel();
     mVideoReader.cancel();
     showNothing(tr("Reading the file..."));
     mpFile->setText(QDir::toNativeSeparators(path));

@@ -66,6 +66,7 @@ private:
 
     EditorContext &mContext;
     QTemporaryDir mPasted; ///< pictures from the clipboard
+    int mPastes = 0;
     PictureReader mReader;
     VideoReader mVideoReader;
     LatestTask mPaste;

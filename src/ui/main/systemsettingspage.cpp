@@ -163,12 +163,17 @@ void SystemSettingsPage::fillHomeLayouts()
     ids += vorlinmodel::customLayoutIds();
     if (mHomeLayout != 0 && !ids.contains(mHomeLayout)) // one that only the panel has
         ids.append(mHomeLayout);
-    mpHomeLayout->clear();
+    QVector<QPair<int, QString>> entries;
     if (mHomeLayout == 0)
-        mpHomeLayout->addItem(tr("not known yet"), 0);
+        entries.append({0, tr("not known yet")});
     for (const int id : qAsConst(ids)) {
         const QString name = layoutName(id, mLanguage).simplified();
-        mpHomeLayout->addItem(name.size() <= longestName ? name : name.left(longestName) + QChar(0x2026), id);
+        entries.append({id, name.size() <= longestName ? name : name.left(longestName) + QChar(0x2026)});
+    }
+    if (entries != std::exchange(mHomeLayouts, entries)) { // else its list, which may be open, stays
+        mpHomeLayout->clear();
+        for (const auto &entry : qAsConst(entries))
+            mpHomeLayout->addItem(entry.second, entry.first);
     }
     mpHomeLayout->setCurrentIndex(mpHomeLayout->findData(mHomeLayout));
     mpHomeLayout->setEnabled(mConnected);

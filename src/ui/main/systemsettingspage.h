@@ -3,6 +3,7 @@
 
 #include <QFrame>
 #include <QMap>
+#include <QPair>
 #include <QVector>
 
 class QComboBox;
@@ -43,6 +44,7 @@ private:
     vorlindesk::IDesktop &mDesktop;
     QMap<int, QString> mDeviceValues;
     int mHomeLayout = 0;
+    QVector<QPair<int, QString>> mHomeLayouts; ///< what the box offers: id and name
     bool mConnected = false;
     QComboBox *mpHomeLayout = nullptr;
     QFormLayout *mpRows = nullptr;

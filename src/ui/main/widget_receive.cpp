@@ -233,6 +233,7 @@ void Widget::onConnectState(bool connected)
         mProgress.linkLost();
     if (went) {
         mWasConnected = true;
+        mpEditor->layouts.linkLost();
         if (mProgress.isReading()) { // no more will come
             mContext.hideWaitingDialog();
             watchRead();
