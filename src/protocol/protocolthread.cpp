@@ -86,7 +86,8 @@ void ProtocolThread::stop()
 
 void ProtocolThread::run()
 {
-    mpShared->running = true;
+    mpShared->running.exchange(
+        true); // reads it, too: what an earlier run has done is done, also for the checker
     mpShared->queue.resume();
     if (mpWorker)
         mpWorker->run();
