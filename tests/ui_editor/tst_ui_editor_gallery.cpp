@@ -148,10 +148,17 @@ private slots:
 
     void filesGetInUnderFreeNames()
     {
+#ifdef Q_OS_WIN // no file has a double quote in its name there, and the toolkit comes without WebP
+        const QString odd = u("猫 '%1' 'b'.png");
+        const char *oddFormat = "PNG";
+#else
+        const QString odd = u("猫 \"%1\" 'b'.webp");
+        const char *oddFormat = "WEBP";
+#endif
         QTRY_VERIFY(child<QLabel>("galleryEmpty")->isVisible() && !view()->isVisible());
         const QStringList files{
             write(u("a.png"), picture()),        write(u("sub/a.png"), picture("BMP")),
-            write(u("plain"), picture("BMP")),   write(u("猫 \"%1\" 'b'.webp"), picture("WEBP")),
+            write(u("plain"), picture("BMP")),   write(odd, picture(oddFormat)),
             write(u("note.png"), "text"),        write(u("cut.jpg"), picture("JPG").chopped(40)),
             write(u("huge.png"), hugePicture()), mpFixture->path("missing.png")};
         FileDialog::setAnswer([&files](const QString &) { return files; });
@@ -162,7 +169,7 @@ private slots:
                    "\"cut.jpg\" is damaged or not complete.\n"
                    "\"huge.png\" is too large: a picture may have up to 16384 x 16384 pixels.\n"
                    "\"missing.png\" cannot be opened."));
-        QCOMPARE(names(), QStringList({u("a (2).png"), u("a.png"), u("plain.bmp"), u("猫 \"%1\" 'b'.webp")}));
+        QCOMPARE(names(), QStringList({u("a (2).png"), u("a.png"), u("plain.bmp"), odd}));
         QCOMPARE(view()->selectionModel()->selectedIndexes().size(), 4);
         QVERIFY(!child<QLabel>("galleryEmpty")->isVisible() && view()->isVisible());
         QVERIFY(GalleryPictures::add({GalleryPictures::folder() + u("/a.png")}).paths.isEmpty());
@@ -365,9 +372,9 @@ private slots:
         QCOMPARE(mBoxes, QStringList(u("Delete 3 pictures and videos from the gallery?")));
         QCOMPARE(names().size(), 3);
         mAnswer = QMessageBox::Yes;
-        view()->setCurrentIndex(item(u("b.png")));
+        view()->selectionModel()->setCurrentIndex(item(u("b.png")), QItemSelectionModel::ClearAndSelect);
         child<QToolButton>("galleryDelete")->click();
-        QTRY_COMPARE(shown(), QStringList({u("a.png"), u("c.png")}));
+        QTRY_COMPARE(shown().join(QLatin1Char(' ')), u("a.png c.png"));
         QCOMPARE(mBoxes.last(), u("Delete \"b.png\" from the gallery?"));
         child<QToolButton>("gallerySelectAll")->click();
         child<QToolButton>("galleryDelete")->click();

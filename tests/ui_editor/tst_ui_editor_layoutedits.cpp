@@ -248,7 +248,7 @@ private slots:
         EditorFixture fixture;
         const LayoutGrouping grouping({Square});
         for (int id = 2; id <= 5; ++id) {
-            CustomLayout layout = customLayoutOf(id, "layout €"_s, grouping);
+            CustomLayout layout = customLayoutOf(id, "layout ñ"_s, grouping);
             layout.background = "b.png"_s;
             QVERIFY(vorlinmodel::saveCustomLayout(layout));
         }
@@ -268,7 +268,7 @@ private slots:
         layouts.takeFromPanel({6, "bad"_s, {{2, 6}}});         // no corners
         QTRY_COMPARE(vorlinmodel::customLayoutIds(), (QVector<int>{2, 3, 5}));
         QCOMPARE(problems.count(), 2);
-        QCOMPARE(loadCustomLayout(2)->name, "layout €"_s);
+        QCOMPARE(loadCustomLayout(2)->name, "layout ñ"_s);
         QCOMPARE(loadCustomLayout(2)->background, "b.png"_s);
         QCOMPARE(loadCustomLayout(3)->keys.at(0).mask, 0x7380U); // keys 8 to 10 and 13 to 15
         QCOMPARE(loadCustomLayout(5)->name, "mine"_s);

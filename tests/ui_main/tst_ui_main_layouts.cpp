@@ -285,6 +285,8 @@ private slots:
 
     void backgroundIsSeenAtOnceAndSavedWithTheLayout()
     {
+        if (!QFile::exists(vorlindesk::Paths::ffmpegTool()))
+            QSKIP("there is no ffmpeg beside this program");
         LayoutsFixture f([](auto &) { store(2, "Desk", {}); });
         f.list()->setCurrentRow(1);
         f.draw(1, 7);

@@ -229,22 +229,33 @@ GalleryPictures::Added GalleryAdding::add(const QStringList &files, const Contro
     return added;
 }
 
+/// @return the path of the copy, which is whole; empty when there is none. Its handle is closed by then,
+/// which takes the end of the QTemporaryFile: Windows moves no file that is open.
+static QString copyAside(QIODevice &source, const std::function<bool()> &proceed, QString &error)
+{
+    QTemporaryFile target(GalleryFile::cacheFolder() + QStringLiteral("/incoming-XXXXXX"));
+    if (!target.open()) {
+        error = target.errorString();
+        return {};
+    }
+    if (!copy(source, target, proceed, error))
+        return {};
+    // Private until now; the gallery's files are as readable as any other.
+    target.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    target.setAutoRemove(false);
+    return target.fileName();
+}
+
 QString GalleryAdding::store(QIODevice &source, const QString &wanted, QString &problem,
                              const std::function<bool()> &proceed)
 {
     QString error;
     const QString name = visibleName(wanted);
     vorlindesk::Paths::createPath(GalleryFile::cacheFolder());
-    QTemporaryFile target(GalleryFile::cacheFolder() + QStringLiteral("/incoming-XXXXXX"));
-    QString path;
-    if (!target.open())
-        error = target.errorString();
-    else if (copy(source, target, proceed, error)) {
-        // Private until now; the gallery's files are as readable as any other.
-        target.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
-        target.close();
-        path = moveToFreeName(target.fileName(), name, error);
-    }
+    const QString incoming = copyAside(source, proceed, error);
+    const QString path = incoming.isEmpty() ? QString() : moveToFreeName(incoming, name, error);
+    if (path.isEmpty())
+        QFile::remove(incoming);
     if (!error.isEmpty())
         problem = copyError(name, error);
     return path;
