@@ -27,8 +27,8 @@ struct VideoSettings
     VideoFit fit = VideoFit::Contain;
 };
 
-/// @return how many ms fit into the byte limit at the lowest quality. Pictures with many details may take more
-/// than that allows.
+/// @return how many ms fit into the byte limit at the lowest quality. Pictures with many details may take
+/// more than that allows.
 qint64 longestVideoMs(const VideoSettings &settings, double frameRate = MaxVideoFrameRate);
 
 /// Any thread; several may convert at the same time.

@@ -23,7 +23,7 @@ struct Question
     QMessageBox::StandardButton preset = QMessageBox::Yes; ///< chosen by Enter
     QString styleSheet = {};                               ///< the dark style when empty
     QHash<int, QString> captions =
-        {}; ///< other texts for buttons, by StandardButton, in the person's language
+        {};             ///< other texts for buttons, by StandardButton, in the person's language
     QString title = {}; ///< of the box; the program's name when empty
 };
 

@@ -50,9 +50,9 @@ public:
     int curLayoutId() const;
     int curPageId() const;
     vorlinmodel::key_id_t currentKey() const; ///< of the page in view; key id 0 when none is selected
-    void refreshKeys();    ///< every built grid: the store was filled anew
-    void rebuildLayouts(); ///< customLayout.ini was changed: frames of layouts come and go
-    bool confirmLeave();   ///< asks about unsaved steps. @return false to stay
+    void refreshKeys();                       ///< every built grid: the store was filled anew
+    void rebuildLayouts();                    ///< customLayout.ini was changed: frames of layouts come and go
+    bool confirmLeave();                      ///< asks about unsaved steps. @return false to stay
     void retranslate();
 
 signals:
