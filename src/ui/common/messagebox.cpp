@@ -3,6 +3,7 @@
 #include "style.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 
 namespace {
 
@@ -51,6 +52,9 @@ QMessageBox::StandardButton MessageBox::question(QWidget *parent, const Question
         box.setWindowTitle(question.title);
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(question.explanation);
+    // Its format follows the text, which may hold a title such as "<b>".
+    if (auto *explanation = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel")))
+        explanation->setTextFormat(Qt::PlainText);
     box.setDefaultButton(question.preset);
     box.setStyleSheet(question.styleSheet.isEmpty() ? QString::fromLatin1(Style::MessageBox)
                                                     : question.styleSheet);

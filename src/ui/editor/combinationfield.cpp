@@ -1,8 +1,8 @@
 #include "combinationfield.h"
 
 #include "attributestyle.h"
-#include "choicebox.h"
 #include "keycapture.h"
+#include "ui_common/choicebox.h"
 #include "wire/keynames.h"
 
 #include <QCompleter>

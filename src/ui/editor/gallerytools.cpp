@@ -1,8 +1,8 @@
 #include "gallerytools.h"
 
 #include "base/language.h"
-#include "choicebox.h"
 #include "galleryicons.h"
+#include "ui_common/choicebox.h"
 #include "ui_common/searchfield.h"
 
 #include <QAction>

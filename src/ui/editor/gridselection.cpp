@@ -38,6 +38,22 @@ int offset(const QRect &from, const QRect &to, Direction direction)
 
 } // namespace
 
+std::optional<GridSelection::Direction> GridSelection::directionOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return GridSelection::Direction::Left;
+    case Qt::Key_Right:
+        return GridSelection::Direction::Right;
+    case Qt::Key_Up:
+        return GridSelection::Direction::Up;
+    case Qt::Key_Down:
+        return GridSelection::Direction::Down;
+    default:
+        return std::nullopt;
+    }
+}
+
 int GridSelection::neighbour(const QVector<QRect> &places, int from, Direction direction)
 {
     const QRect start = places.value(from);

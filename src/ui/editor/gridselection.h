@@ -3,12 +3,16 @@
 
 #include <QRect>
 #include <QVector>
+#include <optional>
 
 /// Keys are named by their index in @p places; a key without a physical one has an empty place, and is never
 /// reached.
 namespace GridSelection {
 
 enum class Direction { Left, Right, Up, Down };
+
+/// @return where an arrow key (Qt::Key) leads; nothing for another key.
+std::optional<Direction> directionOf(int key);
 
 /// @return the next key in that direction, one in the same row or column before others; -1 when there is
 /// none.

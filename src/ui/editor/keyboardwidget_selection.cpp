@@ -20,22 +20,6 @@ void showStyle(KeyWidget &cell, const char *style)
         cell.setStyleSheet(text);
 }
 
-std::optional<GridSelection::Direction> directionOf(int key)
-{
-    switch (key) {
-    case Qt::Key_Left:
-        return GridSelection::Direction::Left;
-    case Qt::Key_Right:
-        return GridSelection::Direction::Right;
-    case Qt::Key_Up:
-        return GridSelection::Direction::Up;
-    case Qt::Key_Down:
-        return GridSelection::Direction::Down;
-    default:
-        return std::nullopt;
-    }
-}
-
 bool opensMenu(const QKeyEvent &event)
 {
     return event.key() == Qt::Key_Menu ||
@@ -204,7 +188,7 @@ bool KeyboardWidget::walk(QKeyEvent *event)
         return false;
     const bool extends = modifiers == Qt::ShiftModifier;
     const int current = indexOf(mCurrent);
-    if (const auto direction = directionOf(event->key())) {
+    if (const auto direction = GridSelection::directionOf(event->key())) {
         moveTo(GridSelection::neighbour(places(), current, *direction), extends);
         return true;
     }

@@ -74,6 +74,9 @@ void LayoutEdits::connectProtocolThread(IProtocolThread &thread)
     connect(
         &thread, &IProtocolThread::sigRequestDone, this,
         [this](const Request &request, RequestOutcome outcome) {
+            if (request.functionCode == static_cast<quint32>(RequestKind::MD_FUNCTION_CODE_HOME_LAYOUT) &&
+                request.layoutId != AskForHomeLayout && outcome != RequestOutcome::Sent)
+                mHandOver.post([this] { emit sigProblem(tr("The panel has not taken the home layout.")); });
             if (request.functionCode !=
                     static_cast<quint32>(RequestKind::MD_FUNCTION_CODE_CUSTOMLAYOUT_SET) &&
                 request.functionCode != static_cast<quint32>(RequestKind::MD_FUNCTION_CODE_CUSTOMLAYOUT_DEL))

@@ -77,6 +77,7 @@ signals:
 
 private:
     friend class LayoutFileCommand;
+    static constexpr int AskForHomeLayout = 255; ///< in place of a layout id
 
     void connectProtocolThread(vorlinmodel::IProtocolThread &thread);
     void requestDone(int layoutId, bool taken);

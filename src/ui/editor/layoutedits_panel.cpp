@@ -17,7 +17,6 @@ namespace {
 
 constexpr int Columns = 5;
 constexpr int AnyPage = 1; // these requests have no page, yet their log line has
-constexpr int AskForHomeLayout = 255;
 
 /// @return the physical keys between two corners as bits; 0 when these are none.
 quint32 rectangleOf(const CustomLayoutRecord::Key &key)

@@ -3,9 +3,9 @@
 #include "attributestyle.h"
 #include "base/iframeworkcontext.h"
 #include "base/language.h"
-#include "choicebox.h"
 #include "editorcontext.h"
 #include "model/ifunctionmanager.h"
+#include "ui_common/choicebox.h"
 
 #include <QComboBox>
 #include <QGridLayout>

@@ -24,22 +24,6 @@ int firstPhysical(quint32 mask)
     return mask == 0 ? 0 : int(qCountTrailingZeroBits(mask)) + 1;
 }
 
-std::optional<GridSelection::Direction> directionOf(int key)
-{
-    switch (key) {
-    case Qt::Key_Left:
-        return GridSelection::Direction::Left;
-    case Qt::Key_Right:
-        return GridSelection::Direction::Right;
-    case Qt::Key_Up:
-        return GridSelection::Direction::Up;
-    case Qt::Key_Down:
-        return GridSelection::Direction::Down;
-    default:
-        return std::nullopt;
-    }
-}
-
 } // namespace
 
 LayoutGrid::LayoutGrid(EditorContext &context, const LayoutDraft &draft, QWidget *parent)
@@ -227,7 +211,7 @@ void LayoutGrid::keyPressEvent(QKeyEvent *event)
 bool LayoutGrid::walk(const QKeyEvent &event)
 {
     const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
-    const auto direction = directionOf(event.key());
+    const auto direction = GridSelection::directionOf(event.key());
     if (!direction || (modifiers != Qt::NoModifier && modifiers != Qt::ShiftModifier))
         return false;
     if (mCurrent == 0) {

@@ -228,6 +228,8 @@ QString LayoutPage::store()
 {
     const LayoutDraft::Value &value = mDraft.value();
     const int layoutId = mDraft.layoutId();
+    if (mDraft.isNew() && vorlinmodel::loadCustomLayout(layoutId)) // the panel's, and no number is free
+        return mContext.framework.languageManager()->Text(TooManyText);
     const bool isGroupingChanged =
         mDraft.isNew() || value.name != mDraft.stored().name || !(value.grouping == mDraft.stored().grouping);
     QUndoStack &history = mContext.edits.history();

@@ -56,9 +56,17 @@ bool PagesMenu::toggleActive()
     return true;
 }
 
+void PagesMenu::mousePressEvent(QMouseEvent *event)
+{
+    mIsPressed = event->button() == Qt::LeftButton;
+    QMenu::mousePressEvent(event);
+}
+
 void PagesMenu::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (!toggleActive())
+    // The end of the click that opened the menu may come here, too, over whatever the menu covers.
+    const bool isChoice = event->button() == Qt::LeftButton && std::exchange(mIsPressed, false);
+    if (!isChoice || actionAt(event->pos()) != activeAction() || !toggleActive())
         QMenu::mouseReleaseEvent(event);
 }
 

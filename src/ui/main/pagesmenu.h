@@ -18,6 +18,7 @@ signals:
     void sigPagesWithKeys();                  ///< the person wants those that have keys
 
 protected:
+    void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
@@ -27,4 +28,5 @@ private:
 
     QAction *mpWithKeys;
     QVector<QAction *> mPages; ///< of page 1, 2 and so on
+    bool mIsPressed = false;   ///< the left button, on the menu
 };

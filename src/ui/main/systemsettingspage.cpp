@@ -5,6 +5,7 @@
 #include "layoutnames.h"
 #include "model/customlayouts.h"
 #include "platform/desktop.h"
+#include "ui_common/choicebox.h"
 #include "ui_common/messagebox.h"
 #include "ui_common/style.h"
 #include "wire/functioncode.h"
@@ -139,7 +140,7 @@ QWidget *SystemSettingsPage::folderRow(const char *buttonName, const QString &fo
 
 QWidget *SystemSettingsPage::homeLayoutChoice()
 {
-    mpHomeLayout = new QComboBox(this);
+    mpHomeLayout = new ChoiceBox(this);
     mpHomeLayout->setObjectName(QStringLiteral("homeLayout"));
     connect(mpHomeLayout, QOverload<int>::of(&QComboBox::activated), this, [this] {
         const int layoutId = mpHomeLayout->currentData().toInt();

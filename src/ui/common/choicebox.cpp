@@ -1,6 +1,6 @@
 #include "choicebox.h"
 
-#include "ui_common/style.h"
+#include "style.h"
 
 #include <QPainter>
 #include <QWheelEvent>
