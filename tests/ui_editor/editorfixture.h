@@ -37,9 +37,7 @@ public:
             return;
         panel = std::make_unique<PanelBehindFake>();
         fakeHid().setPresent(withPanel == Panel::Present);
-        mpThread = std::make_unique<vorlinmodel::ProtocolThread>(store);
-        mpThread->Init();
-        mpThread->start();
+        startThread();
     }
 
     ~EditorFixture() override
@@ -61,14 +59,16 @@ public:
     /// As if the program ended and started again on the same files.
     void restart()
     {
-        if (mpThread)
+        const bool hasThread = mpThread != nullptr;
+        if (hasThread)
             mpThread->stop();
         context.reset();
+        mpThread.reset(); // and its queue: what is left there would end as requests of the next run
         for (const vorlinmodel::key_id_t &key : store.getKeys())
             store.deleteKeyAttribute(key);
+        if (hasThread)
+            startThread();
         editor();
-        if (mpThread)
-            mpThread->start();
     }
 
     vorlindesk::LanguageManager *languageManager() override { return &language; }
@@ -114,6 +114,12 @@ public:
         requests; ///< "kind: layout page key, fid n, id n", "kind: layout page", "kind: n", "dialog id: ms"
 
 private:
+    void startThread()
+    {
+        mpThread = std::make_unique<vorlinmodel::ProtocolThread>(store);
+        mpThread->Init();
+        mpThread->start();
+    }
     void post(vorlinmodel::RequestKind kind, quint32 layoutId, quint32 pageId = 0, quint32 keyId = 0,
               quint32 functionId = 0, quint32 attributeId = 0)
     {
