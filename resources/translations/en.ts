@@ -287,6 +287,21 @@
     </message>
 </context>
 <context>
+    <name>CropDialog</name>
+    <message>
+        <source>%1 x %2 pixels</source>
+        <translation>%1 x %2 pixels</translation>
+    </message>
+    <message>
+        <source>Reading the picture...</source>
+        <translation>Reading the picture...</translation>
+    </message>
+    <message>
+        <source>This file is a video, no picture.</source>
+        <translation>This file is a video, no picture.</translation>
+    </message>
+</context>
+<context>
     <name>CropPanel</name>
     <message>
         <source>Zoom:</source>
@@ -311,6 +326,13 @@
     <message>
         <source>Drag the picture or use the arrow keys to move it. The wheel, + and - zoom.</source>
         <translation>Drag the picture or use the arrow keys to move it. The wheel, + and - zoom.</translation>
+    </message>
+</context>
+<context>
+    <name>CustomLayouts</name>
+    <message>
+        <source>Some lines cannot be read. The file as it was is kept beside it.</source>
+        <translation>Some lines cannot be read. The file as it was is kept beside it.</translation>
     </message>
 </context>
 <context>
@@ -844,6 +866,10 @@
         <source>The panel sent layout %1 with keys that are no rectangles or overlap. It was left out.</source>
         <translation>The panel sent layout %1 with keys that are no rectangles or overlap. It was left out.</translation>
     </message>
+    <message>
+        <source>The panel has not taken the home layout.</source>
+        <translation>The panel has not taken the home layout.</translation>
+    </message>
 </context>
 <context>
     <name>LayoutGrid</name>
@@ -1008,6 +1034,10 @@
     <message>
         <source>The background is still being prepared. Save when it is shown.</source>
         <translation>The background is still being prepared. Save when it is shown.</translation>
+    </message>
+    <message>
+        <source>It is the home layout: choose another one for the panel to start with.</source>
+        <translation>It is the home layout: choose another one for the panel to start with.</translation>
     </message>
 </context>
 <context>
@@ -1438,6 +1468,25 @@
     <message>
         <source>The video is in the gallery.</source>
         <translation>The video is in the gallery.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureUploadTarget</name>
+    <message>
+        <source>No key is selected in the editor.</source>
+        <translation>No key is selected in the editor.</translation>
+    </message>
+    <message>
+        <source>The selected key has no function. Give it one in the editor first.</source>
+        <translation>The selected key has no function. Give it one in the editor first.</translation>
+    </message>
+    <message>
+        <source>The selected key has no video function. Give it one in the editor first.</source>
+        <translation>The selected key has no video function. Give it one in the editor first.</translation>
+    </message>
+    <message>
+        <source>Key %1 of %2</source>
+        <translation>Key %1 of %2</translation>
     </message>
 </context>
 <context>

@@ -189,4 +189,9 @@ QString customLayoutGroupProblem(const QString &group)
                : QString();
 }
 
+QString customLayoutName(const QVariant &entry)
+{
+    return textOf(entry);
+}
+
 } // namespace vorlinmodel

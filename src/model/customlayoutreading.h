@@ -6,6 +6,7 @@
 #include <QStringList>
 
 class QSettings;
+class QVariant;
 
 namespace vorlinmodel {
 
@@ -18,6 +19,9 @@ struct CustomLayoutReading
 
 /// @p settings: inside the group.
 CustomLayoutReading readCustomLayoutGroup(const QSettings &settings, int layoutId);
+
+/// @return a layout's name out of its entry; a comma in it makes a list of that.
+QString customLayoutName(const QVariant &entry);
 
 /// @return the id that a group is named after (FirstCustomLayout to LargestCustomLayout), else 0.
 int customLayoutIdOf(const QString &group);

@@ -7,6 +7,7 @@
 #include "model/layoutgrouping.h"
 #include "model/wholefile.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -148,17 +149,21 @@ LayoutGrouping groupingOf(const CustomLayout &layout)
 
 QVector<int> customLayoutIds()
 {
-    QVector<int> ids;
+    return customLayoutNames().keys().toVector();
+}
+
+QMap<int, QString> customLayoutNames()
+{
+    QMap<int, QString> names;
     if (!QFile::exists(fileName()))
-        return ids;
+        return names;
     IniFile file(fileName());
     for (const QString &group : file->childGroups()) {
         const int id = customLayoutIdOf(group);
         if (id != 0)
-            ids.append(id);
+            names.insert(id, customLayoutName(file->value(group + QStringLiteral("/name"))));
     }
-    std::sort(ids.begin(), ids.end());
-    return ids;
+    return names;
 }
 
 std::optional<CustomLayout> loadCustomLayout(int layoutId)
@@ -178,6 +183,9 @@ QStringList customLayoutProblems()
         return problems;
     {
         IniFile file(fileName());
+        if (file->status() == QSettings::FormatError)
+            problems.append(QCoreApplication::translate(
+                "CustomLayouts", "Some lines cannot be read. The file as it was is kept beside it."));
         for (const QString &group : file->childGroups()) {
             const QString problem = customLayoutGroupProblem(group);
             if (!problem.isEmpty())

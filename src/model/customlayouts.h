@@ -1,6 +1,7 @@
 /// Custom layouts of "devConfig/customLayout.ini": which physical keys form a logical one.
 #pragma once
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -38,6 +39,9 @@ LayoutGrouping groupingOf(const CustomLayout &layout);
 
 /// Ids of the custom layouts in the file, ascending; the standard layout (1) is not among them.
 QVector<int> customLayoutIds();
+
+/// Their names by id, in one reading of the file: each opening of a full file costs a millisecond.
+QMap<int, QString> customLayoutNames();
 
 /// Reads the group "layout_%1"; at most 15 keys are taken, whatever "num" says. A key whose mask is no
 /// rectangle or overlaps an earlier key's counts as empty, so that the numbers of the others stay. Nothing

@@ -135,6 +135,17 @@ private slots:
         QCOMPARE(savedMasks(5).size(), 15);
     }
 
+    void linesThatAreNoSettingsAreNamed()
+    {
+        const QByteArray text = "[layout_4]\nnum=1\n1_bitmap=1\nphyid_1=1&\n[layout_5\nnum=1\n";
+        QVERIFY(writeTestFile("devConfig/customLayout.ini"_s, text));
+        QCOMPARE(customLayoutProblems().value(0),
+                 "Some lines cannot be read. The file as it was is kept beside it."_s);
+        QCOMPARE(savedMasks(4), QVector<quint32>{1});
+        QVERIFY(saveCustomLayout(customLayoutOf(4, {}, LayoutGrouping())));
+        QCOMPARE(testFileContent("devConfig/customLayout.ini.damaged"_s), text);
+    }
+
     void fileThatCannotBeWrittenStays()
     {
         QVERIFY(saveCustomLayout(customLayoutOf(4, "before"_s, LayoutGrouping())));

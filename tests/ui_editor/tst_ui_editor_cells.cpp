@@ -3,8 +3,10 @@
 #include "model/functionids.h"
 #include "model/keypicture.h"
 #include "model/multiaction.h"
+#include "support/files.h"
 #include "support/table.h"
 #include "ui_editor/keywidget.h"
+#include "ui_editor/pictureedits.h"
 #include "ui_editor/vorlinmimedata.h"
 
 using vorlinmodel::key_id_t;
@@ -252,6 +254,29 @@ private slots:
         QCOMPARE(fixture.store.getDefaultImage(Key) == video && !video.isEmpty(), fid == 17 && size != -1);
         QCOMPARE(cell.picture().isNull(), fid == 0);
         QCOMPARE(fixture.editor().edits.history().count(), fid == 0 ? 0 : 1);
+    }
+
+    /// Decoding takes long: away from the user interface, at once is only what the file says of itself.
+    void largePicture()
+    {
+        EditorFixture fixture;
+        fixture.store.createKeyAttribute(Key, 5);
+        fixture.store.createKeyAttribute({1, 1, 9}, 6);
+        const QString large = pictureFile(fixture.path("large.png"), Qt::red, {3000, 2000});
+        const QString cut = fixture.path("cut.png");
+        QVERIFY(writeTestFile(cut, testFileContent(large).chopped(100)));
+        Cell cell(fixture, Key);
+        QVERIFY(!PictureEdits::setPicture(fixture.editor(), Key, cut).isEmpty());
+        QCOMPARE(fixture.editor().edits.history().count(), 0);
+        QSignalSpy ready(&fixture.editor().faces, &KeyFaces::sigFaceReady);
+        cell.drop(mime(FunctionIcon, pair(large, {})));
+        QCOMPARE(fixture.store.getCustomImage(Key), large);
+        QVERIFY(cell.picture().isNull());
+        QTRY_COMPARE(ready.count(), 1);
+        QVERIFY(fixture.editor().faces.shows(Key, ready.at(0).at(0).toString()));
+        QVERIFY(!fixture.editor().faces.shows({1, 1, 9}, large));
+        cell.updateKeyIcon(); // by the grid in the window
+        QCOMPARE(cell.picture().toImage().pixelColor(45, 42), QColor(Qt::red));
     }
 
     void aFileDroppedIsCopiedNotMoved()

@@ -300,6 +300,15 @@ private slots:
         f.press("emptyKeysToo");
         QVERIFY(f.drawn(Square) != QColor(Qt::red)); // none has a function
         f.press("emptyKeysToo");
+        const QString folder = vorlindesk::Paths::devConfigFolder();
+        QVERIFY(QFile::rename(folder, f.path("kept")) && writeTestFile(folder, "in the way"));
+        {
+            const Boxes boxes;
+            f.press("saveLayout");
+            QCOMPARE(boxes.texts, texts({"The layout could not be saved. Is the disk full?"}));
+        }
+        QCOMPARE(f.editor().edits.history().count(), 0); // no empty step either
+        QVERIFY(QFile::remove(folder) && QFile::rename(f.path("kept"), folder));
         f.press("saveLayout");
         const auto layout = vorlinmodel::loadCustomLayout(2);
         QVERIFY(!layout->background.isEmpty());

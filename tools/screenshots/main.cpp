@@ -10,13 +10,11 @@
 #include "model/ifunctionmanager.h"
 #include "panel_app/democonfiguration.h"
 #include "panel_link/panelserver.h"
+#include "photographer.h"
+#include "picturepages.h"
 #include "ui_editor/functionconfigwidget.h"
-#include "ui_editor/keyboardwidget.h"
-#include "ui_editor/keywidget.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
-#include <QMouseEvent>
 #include <QTemporaryDir>
 #include <QWidget>
 #include <cstdio>
@@ -28,88 +26,6 @@ constexpr QSize LargeSize(1920, 1080);
 constexpr int MultiActionKey = 4; // of the demonstration
 constexpr int CombinationKey = 10;
 constexpr int ChildPageKey = 11;
-
-class Photographer
-{
-public:
-    Photographer(QWidget &window, QString folder, QString suffix)
-        : mWindow(window)
-        , mFolder(std::move(folder))
-        , mSuffix(std::move(suffix))
-    {}
-
-    void wait(int milliseconds)
-    {
-        QElapsedTimer timer;
-        timer.start();
-        while (timer.elapsed() < milliseconds)
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-    }
-
-    bool waitUntil(const std::function<bool()> &condition)
-    {
-        constexpr int patience = 30000; // ms
-        QElapsedTimer timer;
-        timer.start();
-        while (!condition() && timer.elapsed() < patience)
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-        return condition();
-    }
-
-    void take(const char *name)
-    {
-        wait(300);
-        const QString path = QStringLiteral("%1/%2%3.png").arg(mFolder, QString::fromLatin1(name), mSuffix);
-        if (mWindow.grab().save(path, "PNG"))
-            std::printf("%s\n", qPrintable(path));
-        else
-            mFailed = true;
-    }
-
-    KeyWidget *key(int keyId)
-    {
-        for (KeyboardWidget *grid : mWindow.findChildren<KeyboardWidget *>()) {
-            if (grid->isVisible())
-                return grid->cell(keyId);
-        }
-        return nullptr;
-    }
-
-    void click(QWidget *target, bool twice = false)
-    {
-        if (!target) {
-            mFailed = true;
-            return;
-        }
-        const auto send = [target](QEvent::Type type) {
-            QMouseEvent event(type, target->rect().center(), Qt::LeftButton,
-                              type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
-                              Qt::NoModifier);
-            QCoreApplication::sendEvent(target, &event);
-        };
-        send(QEvent::MouseButtonPress);
-        send(QEvent::MouseButtonRelease);
-        if (twice) {
-            send(QEvent::MouseButtonDblClick);
-            send(QEvent::MouseButtonRelease);
-        }
-        wait(300);
-    }
-
-    void clickNamed(const char *name) { click(mWindow.findChild<QWidget *>(QString::fromLatin1(name))); }
-    void resize(QSize size)
-    {
-        mWindow.resize(size);
-        wait(300);
-    }
-    bool failed() const { return mFailed; }
-
-private:
-    QWidget &mWindow;
-    const QString mFolder;
-    const QString mSuffix;
-    bool mFailed = false;
-};
 
 QWidget *mainWindow()
 {
@@ -129,7 +45,7 @@ void takeLanguages(Photographer &photographer, vorlindesk::LanguageManager &lang
     }
 }
 
-void takeAll(Photographer &photographer, vorlindesk::LanguageManager &language)
+void takeAll(Photographer &photographer, vorlindesk::LanguageManager &language, const QStringList &photos)
 {
     photographer.resize(SmallestSize);
     photographer.click(photographer.key(CombinationKey));
@@ -144,10 +60,8 @@ void takeAll(Photographer &photographer, vorlindesk::LanguageManager &language)
     photographer.click(photographer.key(ChildPageKey), true);
     photographer.take("child_page");
     photographer.click(photographer.key(vorlinmodel::LastKeyId), true); // its key "Return"
-    photographer.clickNamed("mLayoutSetBtn");
-    photographer.take("layouts");
-    photographer.clickNamed("mPictureUploadBtn");
-    photographer.take("picture_upload");
+    takeLayouts(photographer, language, photos.at(0));
+    takePictureUpload(photographer, language, photos.at(1));
     photographer.clickNamed("mSystemSetBtn");
     photographer.take("settings");
     photographer.clickNamed("mFuncSetBtn");
@@ -176,9 +90,11 @@ int main(int argc, char *argv[])
         std::fprintf(stderr, "cannot start: is the port in VIRTUAL_PANEL_PORT free?\n");
         return 1;
     }
+    const QStringList photos = makePhotos(folder.path());
     QWidget *window = mainWindow();
     window->show();
     Photographer photographer(*window, pictures, suffix);
+    fillGallery(photographer, photos);
     const vorlinmodel::key_id_t lastKey{1, 12, vorlinmodel::LastKeyId}; // of the demonstration
     const auto isRead = [&] {
         return context.functionManager()->getKeyAttribute(lastKey) &&
@@ -190,6 +106,6 @@ int main(int argc, char *argv[])
         return 1;
     }
     photographer.wait(3000); // the end of the read
-    takeAll(photographer, *context.languageManager());
+    takeAll(photographer, *context.languageManager(), photos);
     return photographer.failed() ? 1 : 0;
 }

@@ -2,7 +2,8 @@
 
 #include "style.h"
 
-#include <QPainter>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
 #include <QWheelEvent>
 
 ChoiceBox::ChoiceBox(QWidget *parent)
@@ -11,12 +12,20 @@ ChoiceBox::ChoiceBox(QWidget *parent)
     setFocusPolicy(Qt::StrongFocus);
 }
 
-void ChoiceBox::paintEvent(QPaintEvent *event)
+void ChoiceBox::paintEvent(QPaintEvent *)
 {
     constexpr qreal halfWidth = 3.5; // pixels
-    QComboBox::paintEvent(event);
+    QStylePainter painter(this);
+    painter.setPen(palette().color(QPalette::Text));
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const QRect field =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideRight, field.width());
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+
     const QPointF tip(width() - 9, height() / 2.0 + halfWidth / 2);
-    QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(isEnabled() ? QColor(Qt::white) : QColor(Style::InactiveCell), 1.5));
     painter.drawPolyline(

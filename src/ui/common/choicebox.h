@@ -1,4 +1,5 @@
-/// A combo box for the dark pages, with an arrow that the style sheets leave out.
+/// A combo box for the dark pages, with an arrow that the style sheets leave out. A text that does not fit
+/// ends in dots.
 #pragma once
 
 #include <QComboBox>

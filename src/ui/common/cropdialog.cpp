@@ -44,9 +44,12 @@ public:
         setStyleSheet(QStringLiteral("QDialog {background-color: rgb(51, 51, 51);}") +
                       QString::fromLatin1(Style::Button) + QString::fromLatin1(Style::Page));
         mpNote->setTextFormat(Qt::PlainText);
-        mpNote->setText(text("%1 x %2 pixels").arg(target.width()).arg(target.height()));
+        mpNote->setText(
+            text(QT_TRANSLATE_NOOP("CropDialog", "%1 x %2 pixels")).arg(target.width()).arg(target.height()));
         mpPanel->view().setTarget(target);
-        mpPanel->view().setHint(text("Reading the picture..."));
+        mpPanel->view().setHint(text(QT_TRANSLATE_NOOP("CropDialog", "Reading the picture...")));
+        for (QAbstractButton *button : mpButtons->buttons())
+            button->setIcon({}); // those of the desktop's theme are of another style
         mpButtons->button(QDialogButtonBox::Ok)->setEnabled(false);
         auto *layout = new QVBoxLayout(this);
         layout->addWidget(mpPanel, 1);
@@ -66,7 +69,8 @@ public:
 private:
     void showPicture(const OpenedPicture &picture)
     {
-        problem = picture.video ? text("This file is a video, no picture.") : picture.problem;
+        problem = picture.video ? text(QT_TRANSLATE_NOOP("CropDialog", "This file is a video, no picture."))
+                                : picture.problem;
         if (!problem.isEmpty())
             return reject();
         mpPanel->view().setPicture(picture.view);

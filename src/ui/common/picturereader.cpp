@@ -69,7 +69,7 @@ QString problemOf(vorlinmodel::ConversionError error, const QString &path)
     return vorlinmodel::conversionFailure(error, path).reason;
 }
 
-OpenedPicture opened(const QString &path, const std::atomic<bool> &cancelled)
+OpenedPicture opened(const QString &path, int side, const std::atomic<bool> &cancelled)
 {
     OpenedPicture result{.path = path, .view = {}, .size = {}};
     const vorlinmodel::PictureCheck check = vorlinmodel::checkPicture(path);
@@ -80,7 +80,7 @@ OpenedPicture opened(const QString &path, const std::atomic<bool> &cancelled)
         PictureSource source(path, cancelled);
         result.size = source.size();
         result.moves = source.moves();
-        result.view = source.read(PictureReader::ViewSide);
+        result.view = source.read(side);
         if (result.view.isNull())
             result.problem = problemOf(vorlinmodel::ConversionError::Damaged, path);
     }
@@ -107,10 +107,10 @@ PictureReader::PictureReader(QObject *parent)
     : QObject(parent)
 {}
 
-void PictureReader::open(const QString &path)
+void PictureReader::open(const QString &path, int side)
 {
-    mTask.start([this, path](const std::atomic<bool> &cancelled) {
-        const OpenedPicture picture = opened(path, cancelled);
+    mTask.start([=, this](const std::atomic<bool> &cancelled) {
+        const OpenedPicture picture = opened(path, side, cancelled);
         return [this, picture] {
             emit sigOpened(picture);
         };

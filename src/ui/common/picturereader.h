@@ -12,7 +12,7 @@
 struct OpenedPicture
 {
     QString path;
-    QImage view;          ///< upright, at most PictureReader::ViewSide pixels a side; null for a video
+    QImage view;          ///< upright, made smaller if it was asked for; null for a video
     QSize size;           ///< pixels of the whole picture, upright
     bool moves = false;   ///< several pictures, of which this is the first
     bool video = false;   ///< no picture, but a video
@@ -29,7 +29,8 @@ public:
 
     explicit PictureReader(QObject *parent = nullptr);
 
-    void open(const QString &path); ///< sigOpened follows
+    /// Reads it with at most @p side pixels a side; sigOpened follows.
+    void open(const QString &path, int side = ViewSide);
     /// Takes a part out of the picture in its full size: @p share of it, in which 0 to 1 is the whole, in @p
     /// target pixels. sigCropped follows.
     void crop(const QString &path, const QRectF &share, QSize target);

@@ -130,9 +130,8 @@ bool FunctionConfigWidget::setupBtnLayoutFrame()
         mContext, [this](const MessageBox::Question &question) { return ask(question); }, this);
     connectTools();
     connectPageKeys();
-    addFrame(StandardLayout);
-    for (const int layoutId : vorlinmodel::customLayoutIds())
-        addFrame(layoutId);
+    addFrame(StandardLayout, {});
+    addMissingFrames(vorlinmodel::customLayoutNames());
     makeCurrent(&mKeyboardList.front());
     gridOf(mKeyboardList.front(), mCurPageId);
     return true;

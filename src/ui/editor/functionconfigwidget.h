@@ -6,6 +6,7 @@
 #include "model/keyid.h"
 
 #include <QFrame>
+#include <QMap>
 #include <QMessageBox>
 #include <vector>
 
@@ -87,7 +88,8 @@ private:
     void connectTools();
     void connectPageKeys();
     void watchFocus();
-    void addFrame(int layoutId);
+    void addFrame(int layoutId, const QString &ownName);
+    void addMissingFrames(const QMap<int, QString> &names); ///< names of the custom layouts, by id
     void removeFrame(int layoutId);
     void dropGrids(KeyboardFrame &frame);
     void connectGrid(KeyboardWidget *grid);

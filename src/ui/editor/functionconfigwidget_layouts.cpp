@@ -30,14 +30,6 @@ constexpr int StandardLayout = 1;
 constexpr int StandardLayoutTextId = 11;
 constexpr int FirstPage = 1;
 
-QString ownNameOf(int layoutId)
-{
-    if (layoutId == StandardLayout)
-        return {};
-    const auto layout = vorlinmodel::loadCustomLayout(layoutId);
-    return layout ? layout->name : QString();
-}
-
 } // namespace
 
 KeyboardFrame *FunctionConfigWidget::frameOf(int layoutId)
@@ -133,11 +125,11 @@ void FunctionConfigWidget::makeCurrent(const KeyboardFrame *pFrameData)
         mpLayoutBar->showCurrent(pFrameData->pLayoutButton);
 }
 
-void FunctionConfigWidget::addFrame(int layoutId)
+void FunctionConfigWidget::addFrame(int layoutId, const QString &ownName)
 {
     KeyboardFrame frame;
     frame.nLayoutId = layoutId;
-    frame.ownName = ownNameOf(layoutId);
+    frame.ownName = ownName;
     frame.pPrevPageButton = mpNavigation->prevPageButton();
     frame.pNextPageButton = mpNavigation->nextPageButton();
     frame.pPageLabel = mpNavigation->pageLabel();
@@ -145,6 +137,14 @@ void FunctionConfigWidget::addFrame(int layoutId)
     connect(frame.pLayoutButton, &QPushButton::clicked, this,
             &FunctionConfigWidget::onSystemPannelLayoutButtonClicked);
     mKeyboardList.push_back(frame);
+}
+
+void FunctionConfigWidget::addMissingFrames(const QMap<int, QString> &names)
+{
+    for (auto name = names.cbegin(); name != names.cend(); ++name) {
+        if (!frameOf(name.key()))
+            addFrame(name.key(), *name);
+    }
 }
 
 void FunctionConfigWidget::removeFrame(int layoutId)
@@ -176,23 +176,20 @@ QString FunctionConfigWidget::layoutName(const KeyboardFrame &frame) const
 /// Grids of custom layouts are built anew when they are next shown: their keys may lie elsewhere now.
 void FunctionConfigWidget::rebuildLayouts()
 {
-    const QVector<int> wanted = vorlinmodel::customLayoutIds();
+    const QMap<int, QString> wanted = vorlinmodel::customLayoutNames();
     QVector<int> gone;
     for (KeyboardFrame &frame : mKeyboardList) {
         if (frame.nLayoutId == StandardLayout)
             continue;
         dropGrids(frame);
-        frame.ownName = ownNameOf(frame.nLayoutId);
+        frame.ownName = wanted.value(frame.nLayoutId);
         mpLayoutBar->rename(frame.pLayoutButton, layoutName(frame));
         if (!wanted.contains(frame.nLayoutId))
             gone.append(frame.nLayoutId);
     }
     for (const int layoutId : gone)
         removeFrame(layoutId);
-    for (const int layoutId : wanted) {
-        if (!frameOf(layoutId))
-            addFrame(layoutId);
-    }
+    addMissingFrames(wanted);
     if (frameOf(mCurLayoutId))
         return setKeyboardCurLayoutAndPage(mCurLayoutId, mCurPageId, false);
     setChildrenForm(false);

@@ -33,7 +33,7 @@ KeyboardWidget::KeyboardWidget(EditorContext &context, int layoutId, int pageId,
         if (changed)
             changed->updateMark();
     });
-    connect(&mContext.faces, &KeyFaces::sigFaceReady, this, &KeyboardWidget::refreshVideos);
+    connect(&mContext.faces, &KeyFaces::sigFaceReady, this, &KeyboardWidget::refreshFaces);
     connect(mContext.framework.languageManager(), &vorlindesk::LanguageManager::sigLanguageChanged, this,
             [this] {
                 for (KeyWidget *cell : qAsConst(mCells))
@@ -129,10 +129,12 @@ void KeyboardWidget::refreshKeys(const QVector<key_id_t> &keys)
     }
 }
 
-void KeyboardWidget::refreshVideos()
+/// Only of cells with that picture: the others would ask for theirs, which may have left the cache, and so on
+/// without end.
+void KeyboardWidget::refreshFaces(const QString &path)
 {
     for (KeyWidget *cell : qAsConst(mCells)) {
-        if (cell->fid() == vorlinmodel::VIDEO_FID)
+        if (cell->fid() != 0 && mContext.faces.shows(cell->keyId(), path))
             cell->updateKeyIcon();
     }
 }

@@ -68,7 +68,7 @@ private:
     void placeCells();
     void refresh(KeyWidget *cell);
     void refreshKeys(const QVector<vorlinmodel::key_id_t> &keys);
-    void refreshVideos();
+    void refreshFaces(const QString &path);
     bool isOnPage(const vorlinmodel::key_id_t &key) const;
 
     QVector<QRect> places() const;

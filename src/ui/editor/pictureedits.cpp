@@ -71,7 +71,7 @@ QString PictureEdits::setPicture(EditorContext &context, const key_id_t &key, co
     const auto record = store.getKeyAttribute(key);
     if (!record)
         return {};
-    if (context.faces.picture(path).isNull())
+    if (!context.faces.isPicture(path))
         return QCoreApplication::translate("PictureEdits", "\"%1\" is not a picture that can be read.")
             .arg(QFileInfo(path).fileName());
     context.edits.change(QCoreApplication::translate("PictureEdits", "Picture"), {key}, [&] {

@@ -69,22 +69,35 @@ QString VideoFiles::named(const QString &path, const QString &sourceName)
     return !base.isEmpty() && QFile::rename(path, wanted) ? wanted : path;
 }
 
-void VideoFiles::removeUnused(const vorlinmodel::IFunctionManager &store)
+namespace {
+
+/// Also what a run has left that ended in the middle of a conversion.
+void removeAllBut(const QSet<QString> &used, QDir dir)
 {
-    QDir dir(folder());
-    const auto keys = store.getKeys();
-    if (keys.isEmpty() || !dir.exists())
-        return;
-    QSet<QString> used; // names alone: the data folder may have moved
-    for (const vorlinmodel::key_id_t &key : keys)
-        used.insert(QFileInfo(store.getDefaultImage(key)).fileName());
-    for (const QString &name : dir.entryList({QStringLiteral("*.avi")}, QDir::Files)) {
+    for (const QString &name :
+         dir.entryList({QStringLiteral("*.avi"), QStringLiteral("*.png")}, QDir::Files)) {
         if (!used.contains(name))
             dir.remove(name);
     }
-    // Of a run that ended in the middle of a conversion.
     for (const QString &name : dir.entryList({QStringLiteral("convert-*")}, QDir::Dirs))
         QDir(dir.filePath(name)).removeRecursively();
+}
+
+} // namespace
+
+void VideoFiles::removeUnused(const vorlinmodel::IFunctionManager &store)
+{
+    const auto keys = store.getKeys();
+    if (keys.isEmpty())
+        return;
+    QSet<QString> used; // names alone: the data folder may have moved
+    for (const vorlinmodel::key_id_t &key : keys) {
+        used.insert(QFileInfo(store.getDefaultImage(key)).fileName());
+        used.insert(QFileInfo(store.getDisplayImage(key)).fileName());
+    }
+    const QDir keysFolder(folder());
+    removeAllBut(used, keysFolder);
+    removeAllBut(used, QFileInfo(keysFolder.absolutePath()).dir()); // of the upload page
 }
 
 QString VideoFiles::describe(const QString &path, bool isSent)

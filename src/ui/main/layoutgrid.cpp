@@ -35,7 +35,7 @@ LayoutGrid::LayoutGrid(EditorContext &context, const LayoutDraft &draft, QWidget
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setFocusPolicy(Qt::StrongFocus);
     connect(&draft, &LayoutDraft::sigChanged, this, &LayoutGrid::onDraftChanged);
-    connect(&context.faces, &KeyFaces::sigFaceReady, this, &LayoutGrid::redraw);
+    connect(&context.faces, &KeyFaces::sigFaceReady, this, &LayoutGrid::onFaceReady);
     connect(&context.edits, &KeyEdits::sigKeysChanged, this, &LayoutGrid::redraw);
     connect(this, &LayoutGrid::sigSelectionChanged, this, &LayoutGrid::describe);
     onDraftChanged();
@@ -50,6 +50,13 @@ void LayoutGrid::onDraftChanged()
     }
     redraw();
     select(mSelection); // keys may have grown
+}
+
+void LayoutGrid::onFaceReady(const QString &path)
+{
+    if (path == mBackgroundPath)
+        mBackground = mContext.faces.picture(path);
+    redraw();
 }
 
 void LayoutGrid::redraw()

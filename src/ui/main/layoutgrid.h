@@ -50,6 +50,7 @@ protected:
 
 private:
     void onDraftChanged();
+    void onFaceReady(const QString &path);
     void redraw();
     void describe();
 

@@ -32,6 +32,17 @@ int keysWithFunction(int layoutId, const vorlinmodel::IFunctionManager &store)
     return count;
 }
 
+/// Ends the step that was begun; one in which nothing was done leaves the history again.
+void endStep(QUndoStack &history)
+{
+    history.endMacro();
+    const QUndoCommand *step = history.command(history.index() - 1);
+    if (!step || step->childCount() != 0)
+        return;
+    const_cast<QUndoCommand *>(step)->setObsolete(true); // the stack offers no other way to its last step
+    history.undo();
+}
+
 /// @return @p pattern with @p name in place of %1, the name shortened to what the panel has room for.
 QString fitting(const QString &pattern, QString name)
 {
@@ -131,10 +142,14 @@ void LayoutPage::onDelete()
         return;
     const auto &language = *mContext.framework.languageManager();
     const int keys = mDraft.isNew() ? 0 : keysWithFunction(layoutId, mContext.edits.store());
+    QString explanation = keys == 0 ? tr("None of its keys has a function.")
+                                    : tr("Keys with a function that go with it, on all pages: %1").arg(keys);
+    if (layoutId == mHomeLayout)
+        explanation +=
+            QLatin1Char('\n') + tr("It is the home layout: choose another one for the panel to start with.");
     const MessageBox::Question question{
         .text = tr("Delete the layout \"%1\"?").arg(layoutName(layoutId, mDraft.value().name, language)),
-        .explanation = keys == 0 ? tr("None of its keys has a function.")
-                                 : tr("Keys with a function that go with it, on all pages: %1").arg(keys),
+        .explanation = explanation,
         .buttons = QMessageBox::Yes | QMessageBox::Cancel,
         .preset = QMessageBox::Cancel,
         .captions = {{QMessageBox::Yes, language.Text(vorlindesk::TextId::Delete)},
@@ -244,7 +259,7 @@ QString LayoutPage::store()
         problem = mContext.layouts.setBackground(
             layoutId, {.file = value.background, .pages = value.pages, .emptyKeysToo = value.emptyKeysToo});
     if (isBoth)
-        history.endMacro();
+        endStep(history);
     return problem;
 }
 

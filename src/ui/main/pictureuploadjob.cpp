@@ -4,6 +4,7 @@
 #include "pictureuploadtarget.h"
 #include "pictureuploadvideo.h"
 #include "ui_editor/editorcontext.h"
+#include "ui_editor/galleryadding.h"
 #include "ui_editor/gallerypictures.h"
 #include "ui_editor/pictureedits.h"
 
@@ -16,27 +17,24 @@ using vorlinmodel::ConversionQueue;
 
 namespace {
 
-QString problemsOf(const GalleryPictures::Added &added)
+GalleryPictures::Added addPicture(const QString &path, const QString &name)
 {
-    return added.problems.join(QLatin1Char('\n'));
-}
-
-QString addPicture(const QString &path, const QString &name)
-{
-    return problemsOf(GalleryPictures::addImage(QImage(path), name));
+    return GalleryPictures::addImage(QImage(path), name);
 }
 
 /// The gallery takes over the name of a file.
-QString addVideo(const QString &path, const QString &name)
+GalleryPictures::Added addVideo(const QString &path, const QString &name, const std::atomic<bool> &cancelled)
 {
     const QFileInfo made(path);
     const QString named = made.dir().filePath(name + QLatin1Char('.') + made.suffix());
     QFile::remove(named);
     if (!QFile::rename(path, named))
-        return vorlinmodel::conversionFailure(ConversionError::NotWritable, made.path()).reason;
-    const QString problem = problemsOf(GalleryPictures::add({named}));
+        return {
+            .paths = {},
+            .problems = {vorlinmodel::conversionFailure(ConversionError::NotWritable, made.path()).reason}};
+    const GalleryPictures::Added added = GalleryAdding::add({named}, {.cancelled = cancelled});
     QFile::remove(named);
-    return problem;
+    return added;
 }
 
 } // namespace
@@ -78,6 +76,8 @@ void PictureUploadJob::cancel()
         finish({.problem = {}, .cancelled = true});
     } else if (mPlacing) {
         mContext.videos.cancel(mOrder.key);
+    } else if (mStore.isBusy()) {
+        mStopsAdding = true; // the task says whether that came in time
     } else {
         mQueue.cancel(mConversion);
     }
@@ -121,9 +121,13 @@ void PictureUploadJob::finishConversion(int id, const vorlinmodel::ConversionRes
 
 void PictureUploadJob::addToGallery(const QString &path, const PictureUploadOutcome &outcome)
 {
+    mStopsAdding = false;
     mStore.start([this, path, outcome, order = mOrder](const std::atomic<bool> &) {
+        const GalleryPictures::Added added =
+            order.video ? addVideo(path, order.name, mStopsAdding) : addPicture(path, order.name);
         PictureUploadOutcome result = outcome;
-        result.problem = order.video ? addVideo(path, order.name) : addPicture(path, order.name);
+        result.problem = added.problems.join(QLatin1Char('\n'));
+        result.cancelled = result.problem.isEmpty() && added.paths.isEmpty();
         QFile::remove(path);
         return [this, result] {
             finish(result);

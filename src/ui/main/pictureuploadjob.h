@@ -61,7 +61,8 @@ private:
     QTemporaryDir mWork; ///< the parts of pictures, until they are converted
     PictureReader mReader;
     vorlinmodel::ConversionQueue mQueue;
-    LatestTask mStore; ///< waits for the disk in place of the user interface
+    std::atomic<bool> mStopsAdding = false; ///< read by the task of mStore
+    LatestTask mStore;                      ///< waits for the disk in place of the user interface
     PictureUploadOrder mOrder;
     int mConversion = 0; ///< its number in the queue; 0: none
     bool mPlacing = false;

@@ -1,6 +1,7 @@
 #include "pictureuploadoptions.h"
 
 #include "pictureuploadpreview.h"
+#include "ui_common/choicebox.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -35,11 +36,11 @@ void keepNarrow(QComboBox &box)
 PictureUploadOptions::PictureUploadOptions(QWidget *parent)
     : QWidget(parent)
     , mpUseCaption(new QLabel(this))
-    , mpUse(new QComboBox(this))
+    , mpUse(new ChoiceBox(this))
     , mpShapeCaption(new QLabel(this))
-    , mpShape(new QComboBox(this))
+    , mpShape(new ChoiceBox(this))
     , mpFitCaption(new QLabel(this))
-    , mpFit(new QComboBox(this))
+    , mpFit(new ChoiceBox(this))
     , mpCut(new QCheckBox(this))
     , mpPreviewCaption(new QLabel(this))
     , mpPreview(new PictureUploadPreview(this))

@@ -30,6 +30,7 @@ constexpr char PageStyle[] =
     "QCheckBox::indicator:checked {background-color: rgb(0, 160, 255);border-color: white;}"
     "QCheckBox:focus {color: rgb(0, 160, 255);}"
     "QComboBox {font-size: 14px;}"
+    "QComboBox::drop-down {border: none;width: 20px;}"
     "#setProblem, #facts {color: rgb(190, 190, 190);font-size: 13px;}"
     "QProgressBar {background-color: rgb(36, 36, 36);color: white;border: 1px solid rgb(92, 92, 92);"
     "border-radius: 4px;text-align: center;font-size: 13px;}"

@@ -20,11 +20,14 @@ QString text(const char *source)
 QString PictureUploadTarget::problem(bool video) const
 {
     if (!isSelected())
-        return text("No key is selected in the editor.");
+        return text(QT_TRANSLATE_NOOP("PictureUploadTarget", "No key is selected in the editor."));
     if (fid == 0)
-        return text("The selected key has no function. Give it one in the editor first.");
+        return text(QT_TRANSLATE_NOOP("PictureUploadTarget",
+                                      "The selected key has no function. Give it one in the editor first."));
     if (video && fid != vorlinmodel::VIDEO_FID)
-        return text("The selected key has no video function. Give it one in the editor first.");
+        return text(
+            QT_TRANSLATE_NOOP("PictureUploadTarget",
+                              "The selected key has no video function. Give it one in the editor first."));
     return {};
 }
 
@@ -38,7 +41,7 @@ PictureUploadTarget pictureUploadTarget(const EditorContext &context, const vorl
     target.size = vorlinmodel::keyPixelSize(key);
     // Both at once: the name of a layout may itself hold a "%2".
     target.name =
-        text("Key %1 of %2")
+        text(QT_TRANSLATE_NOOP("PictureUploadTarget", "Key %1 of %2"))
             .arg(QString::number(key.kid), layoutName(key.lid, *context.framework.languageManager()));
     return target;
 }
