@@ -10,12 +10,12 @@
 #include "model/ifunctionmanager.h"
 #include "panel_link/panelserver.h"
 #include "protocol/iprotocolthread.h"
+#include "watchdog.h"
 
 #include <QApplication>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QWidget>
 #include <atomic>
 #include <chrono>
@@ -36,38 +36,10 @@ constexpr auto Patience = 180s;
 constexpr QSize KeySize(90, 84);
 const key_id_t VideoKey{1, 1, 1};
 
-/// Ticks through the event loop, and notes by how much a tick came late.
-class Watchdog : public QObject
+void report(Watchdog &watchdog, const char *what)
 {
-public:
-    Watchdog()
-    {
-        mTimer.setTimerType(Qt::PreciseTimer);
-        mTimer.setInterval(Interval);
-        connect(&mTimer, &QTimer::timeout, this, [this] {
-            const auto now = Clock::now();
-            mLongest = std::max(mLongest, Milliseconds(now - mLast).count() - Milliseconds(Interval).count());
-            mLast = now;
-        });
-    }
-    void start()
-    {
-        mLongest = 0;
-        mLast = Clock::now();
-        mTimer.start();
-    }
-    void report(const char *what)
-    {
-        mTimer.stop();
-        std::printf("longest block of the event loop during %s: %.1f ms\n", what, mLongest);
-    }
-
-private:
-    static constexpr auto Interval = 2ms;
-    QTimer mTimer;
-    Clock::time_point mLast;
-    double mLongest = 0;
-};
+    std::printf("longest block of the event loop during %s: %.1f ms\n", what, watchdog.stop());
+}
 
 template <typename Condition>
 bool waitFor(Condition condition)
@@ -142,7 +114,7 @@ QString convertFilm(Watchdog &watchdog, const QString &folder)
     watchdog.start();
     queue.add({film, KeySize, vorlinmodel::VideoSettings{.size = KeySize}});
     waitFor([&] { return done; });
-    watchdog.report("a conversion of a video");
+    report(watchdog, "a conversion of a video");
     return result.path;
 }
 
@@ -164,7 +136,7 @@ void sendVideo(Watchdog &watchdog, vorlindesk::FrameworkContext &context, const 
         context.sendRequest(RequestKind::MD_FUNCTION_CODE_KEY_ATTRIBUTE, VideoKey.lid, VideoKey.pageid,
                             VideoKey.kid, vorlinmodel::VIDEO_FID, static_cast<int>(attribute));
     waitFor([&] { return done.load(); });
-    watchdog.report("the transfer of the video");
+    report(watchdog, "the transfer of the video");
 }
 
 } // namespace
@@ -193,7 +165,7 @@ int main(int argc, char *argv[])
     waitFor([&] { return pictures > 0; });
     watchdog.start();
     waitFor([&] { return pictures == BenchPanel::KeyCount; });
-    watchdog.report("the read-back of 240 pictures");
+    report(watchdog, "the read-back of 240 pictures");
     vorlindesk::setLogSink({});
     waitFor([start = Clock::now()] { return Clock::now() - start > 5s; }); // the end of the read
     const QString video = convertFilm(watchdog, folder.path());
