@@ -39,6 +39,7 @@ public:
 } // namespace
 
 using OutcomeTable = Table<PanelFaults, int, QStringList, QString>;
+using SilentTable = Table<int>;
 using RefusedTable = Table<int, QString>;
 Q_DECLARE_METATYPE(PanelFaults)
 
@@ -50,6 +51,7 @@ class tst_ui_main_upgrade : public QObject
     std::unique_ptr<Context> mpContext;
     std::unique_ptr<HIDUpgradeDialog> mpDialog;
     std::unique_ptr<PanelModel> mpPanel;
+    int mReports = 0;   // that the panel got; of the protocol thread
     QStringList mBoxes; // "title: text"
     QMessageBox::StandardButton mAnswer = QMessageBox::Ok;
 
@@ -81,13 +83,17 @@ class tst_ui_main_upgrade : public QObject
         mpDialog->show();
     }
 
-    /// A panel behind the real thread. It is unplugged as its faults say.
-    void openWithPanel(const PanelFaults &faults)
+    /// A panel behind the real thread. It is unplugged as its faults say, and falls silent before it answers
+    /// the given report.
+    void openWithPanel(const PanelFaults &faults, int silentFrom = INT_MAX)
     {
         renewFakeHid();
+        mReports = 0;
         mpPanel = std::make_unique<PanelModel>();
         mpPanel->setFaults(faults);
-        fakeHid().setOnWrite([this](const QByteArray &report) {
+        fakeHid().setOnWrite([this, silentFrom](const QByteArray &report) {
+            if (++mReports == silentFrom)
+                mpPanel->setFaults({true});
             mpPanel->receive(report);
             for (const QByteArray &answer : mpPanel->takeOutgoing())
                 fakeHid().send(answer);
@@ -142,6 +148,7 @@ private slots:
             "The panel received something else");
         unplugged("unplugged at the request", 1, 0,
                   texts({"receive upgrade response error", "Failed to request upgrade"}));
+        unplugged("unplugged at the erasing", 2, 0, texts({"receive ereasue response error"}));
         unplugged("unplugged at the first block", 3, 1, broken("transfer 2 block data error"));
         unplugged("unplugged in the middle", 7, 5, broken("transfer 6 block data error"));
         unplugged("unplugged at the last block", 13, 11,
@@ -165,13 +172,22 @@ private slots:
         QCOMPARE(mBoxes, QStringList()); // no question
     }
 
+    void silentPanel_data()
+    {
+        const SilentTable row;
+        row("at the request", 1);
+        row("at the erasing", 2);
+        row("at the checksum", 3); // of a file of one block
+    }
     void silentPanel()
     {
-        openWithPanel({true});
+        const auto [report] = SilentTable::current();
+        openWithPanel({}, report);
         mpDialog->setPatience(100);
         choose("x");
         click("upgradeButton");
-        QTRY_VERIFY(state().startsWith("The panel does not answer"_s));
+        QTRY_VERIFY2(state().startsWith("The panel does not answer"_s),
+                     qPrintable(state() + lines().join("|"_s)));
         QCOMPARE(asked(), 1); // it took the request: nothing is repeated
         mAnswer = QMessageBox::No;
         QVERIFY(!mpDialog->close());
