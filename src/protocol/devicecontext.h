@@ -1,6 +1,7 @@
 /// What the operations on the panel work with.
 #pragma once
 
+#include "firmwarefile.h"
 #include "iprotocolthread.h"
 #include "mdprotocol.h"
 #include "requestqueue.h"
@@ -72,6 +73,7 @@ struct DeviceContext
     WrittenFunctions functions;
     bool unreadable; ///< set by an operation that could not read a file, and therefore wrote nothing
     WrittenLayouts layouts{};
+    FirmwareFile firmware{};
 };
 
 /// Carries out one request, to its end. Failures are in the log only, except where a signal reports the

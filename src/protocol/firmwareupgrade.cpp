@@ -3,12 +3,8 @@
 #include "base/log.h"
 #include "devicerequests.h"
 #include "logtext.h"
-#include "model/wholefile.h"
-#include "wire/applicationmessage.h"
-#include "wire/crc16.h"
 
 #include <QElapsedTimer>
-#include <QFileInfo>
 
 namespace vorlinmodel {
 namespace {
@@ -20,7 +16,6 @@ namespace Text = ProtocolText;
 
 constexpr int ResponseTimeout = 1000; // ms per read
 constexpr int CrcTimeout = 5000;      // ms per read: the panel sums up the whole file first
-constexpr int LargestFile = ApplicationMessage::MaxSize - ApplicationMessage::SubcodeDataOffset;
 constexpr qint64 ProgressPeriod = 50; // ms; the lines tell of every block, the bar need not
 constexpr qint32 Available = 1;
 constexpr qint32 NotAvailable = -1;
@@ -128,20 +123,19 @@ bool Upgrade::announce()
 
 bool Upgrade::readFile()
 {
-    // Refused here and not at the transfer, where the panel would have erased its firmware already.
-    if (QFileInfo(mFileName).size() > LargestFile) {
+    switch (mContext.firmware.load(mFileName)) {
+    case FirmwareFile::Problem::None:
+        break;
+    case FirmwareFile::Problem::TooLarge: // not at the transfer: the panel would have erased its own by then
         say(Text::UpgradeTransferError);
         say(Text::UpgradeTransferFailed);
         return false;
-    }
-    QString reason;
-    const std::optional<QByteArray> bytes = readWholeFile(mFileName, reason, LargestFile);
-    if (!bytes) {
+    case FirmwareFile::Problem::Unreadable:
         say(QString::asprintf(Text::UpgradeOpenFailed, qUtf8Printable(mFileName)));
         return false;
     }
-    mFirmware = *bytes;
-    mFileCrc = crc16(mFirmware);
+    mFirmware = mContext.firmware.bytes();
+    mFileCrc = mContext.firmware.crc();
     say(QString::asprintf(Text::UpgradeOpened, qUtf8Printable(mFileName)));
     say(QString::asprintf(Text::UpgradeFileSize, static_cast<int>(mFirmware.size()), unsigned{mFileCrc}));
     say(Text::UpgradeHidOpen);

@@ -165,6 +165,7 @@ void ProtocolWorker::pass()
         mpTransfer->setErrorLogging(false);
         mShared.queue.end();
     }
+    mContext.firmware.dropIfOld();
     pollPanel();
     rest(stopwatch.elapsed());
 }

@@ -108,6 +108,37 @@ private slots:
         QVERIFY(fixture.messages().isEmpty());
     }
 
+    /// While no panel is there the same file is asked for over and over.
+    void unchangedFileIsNotReadAgain()
+    {
+        ThreadFixture fixture;
+        fakeHid().setPresent(false);
+        const QDateTime then = QDateTime::currentDateTime().addSecs(-60);
+        const auto write = [](const QByteArray &bytes, const QDateTime &time) {
+            writeFile("fw.bin"_s, bytes);
+            QFile file("fw.bin"_s);
+            QVERIFY(file.open(QIODevice::ReadWrite) && file.setFileTime(time, QFile::FileModificationTime));
+        };
+        const auto ask = [&fixture](int times) {
+            fixture.postFile(MD_FUNCTION_CODE_UPGRADE, "fw.bin"_s);
+            QTRY_COMPARE(fixture.events("log filesize").size(), times);
+        };
+        write("123456789", then);
+        fixture.thread.start();
+        ask(1);
+        write("987654321", then); // would be noticed if it were read
+        ask(2);
+        write("987654321", then.addSecs(1));
+        ask(3);
+        const QStringList sizes = fixture.events("log filesize");
+        QCOMPARE(sizes.at(0), "log filesize: 9 filecrc16:0x29b1"_s);
+        QCOMPARE(sizes.at(1), sizes.at(0));
+        QVERIFY(sizes.at(2) != sizes.at(0));
+        QFile::remove("fw.bin"_s);
+        fixture.postFile(MD_FUNCTION_CODE_UPGRADE, "fw.bin"_s);
+        QTRY_COMPARE(fixture.events("log open fw.bin error").size(), 1);
+    }
+
     /// The link breaks at one of the steps.
     void brokenLink_data()
     {
