@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <algorithm>
+#include <mutex>
 
 namespace vorlinmodel::Profiles {
 
@@ -27,6 +28,10 @@ constexpr char Failed[] = "backup: [%s] not made: %s\n";
 constexpr char UnfinishedEnding[] = ".part";
 constexpr char SystemIni[] = "system.ini";
 constexpr int GatherPart = 60; // percent of making a backup
+
+// Held while a backup is written, by worker threads only: two of the same second would take the same folder,
+// and one that is being written looks like what an interrupted program left.
+std::mutex writing;
 
 bool isBackupName(const QString &name)
 {
@@ -220,6 +225,7 @@ BackupResult create(const QString &directory, const BackupContent &content, Back
         result.error = content.error;
         return result;
     }
+    const std::lock_guard lock(writing);
     result = Writer(content, directory, reason, name).run(watch);
     if (!result.folder.isEmpty() && reason == BackupReason::Person)
         setCurrentScript(content.scriptBytes);
@@ -231,7 +237,10 @@ BackupResult create(const QString &directory, const BackupContent &content, Back
 BackupResult createAutomatic(const QString &directory, const IFunctionManager &store,
                              const BackupWatch &watch)
 {
-    removeUnfinished(directory);
+    {
+        const std::lock_guard lock(writing);
+        removeUnfinished(directory);
+    }
     BackupResult result;
     const auto present = presentContent(store, watch.part(0, GatherPart));
     result.isCancelled = !present;

@@ -7,7 +7,7 @@
 
 /// A backup is a dated folder ("script_yyyyMMdd_HHmmss") in the profile directory; an empty directory means
 /// "devConfig". It appears there at once and whole: until then its folder ends in ".part". Any thread may
-/// call these, one call at a time.
+/// call these; those that write wait for each other.
 namespace vorlinmodel::Profiles {
 
 constexpr int Kept = 20; ///< automatic backups, and safety backups too, beyond which the oldest are removed
