@@ -103,7 +103,7 @@ class tst_ui_main_upgrade : public QObject
         mpContext->real = std::make_unique<vorlinmodel::ProtocolThread>(mpContext->store);
         QVERIFY(mpContext->real->Init());
         open();
-        mpDialog->setBackup([] { return "backup/of/today"_s; });
+        mpDialog->setBackup([](const std::atomic<bool> &) { return "backup/of/today"_s; });
         mpContext->real->start();
     }
 
@@ -216,7 +216,7 @@ private slots:
     {
         const auto [size, text] = RefusedTable::current();
         open();
-        mpDialog->setBackup([] { return QString(); }); // is not asked
+        mpDialog->setBackup([](const std::atomic<bool> &) { return QString(); }); // is not asked
         choose("x");
         if (size < 0)
             QFile::remove("fw.xft"_s);
@@ -230,7 +230,7 @@ private slots:
     void withoutABackupOnlyOnRequest()
     {
         open();
-        mpDialog->setBackup([] { return QString(); });
+        mpDialog->setBackup([](const std::atomic<bool> &) { return QString(); });
         choose("x");
         mAnswer = QMessageBox::No;
         click("upgradeButton");

@@ -26,6 +26,7 @@ namespace {
 
 constexpr int FileDialogCaption = 104;
 constexpr int FileDialogFilter = 105;
+constexpr int FirmwareFilter = 75;
 
 /// "transfer %d block data ok"
 bool isAboutABlock(const QString &line)
@@ -57,13 +58,17 @@ bool HIDUpgradeDialog::isUpgrading() const
     return mpThread && mpThread->isUpgrading();
 }
 
-/// Caption and filter are those of font files for firmware too. That is wanted: both come as ".xft".
+/// Caption and first filter are those of font files for firmware too. That is wanted: both come as ".xft".
+/// Firmware may be a ".bin" as well.
 void HIDUpgradeDialog::onSelectButtonClicked()
 {
     const vorlindesk::LanguageManager &language = *mContext.languageManager();
+    QString filter = language.Text(FileDialogFilter);
+    if (mMode == Mode::Firmware)
+        filter += QStringLiteral(";;") + language.Text(FirmwareFilter);
     // Not over this dialog, whose style sheet would make the file dialog black on dark grey.
-    const QString path = FileDialog::openFile(parentWidget(), language.Text(FileDialogCaption), QString(),
-                                              language.Text(FileDialogFilter));
+    const QString path =
+        FileDialog::openFile(parentWidget(), language.Text(FileDialogCaption), QString(), filter);
     if (path.isEmpty())
         return;
     mpFilePath->setText(path);
@@ -89,11 +94,11 @@ void HIDUpgradeDialog::prepare(bool toUpgrade)
 {
     setState(State::Checking);
     const Backup backup = toUpgrade ? mBackup : Backup();
-    mpTask->start([this, toUpgrade, backup, path = mpFilePath->text()](const std::atomic<bool> &) {
+    mpTask->start([this, toUpgrade, backup, path = mpFilePath->text()](const std::atomic<bool> &cancelled) {
         Preparation preparation;
         preparation.file = examineUpgradeFile(path);
         if (backup && preparation.file.problem == UpgradeFile::Problem::None) {
-            preparation.backupFolder = backup();
+            preparation.backupFolder = backup(cancelled);
             preparation.backedUp = !preparation.backupFolder.isEmpty();
         }
         return LatestTask::Delivery([this, toUpgrade, preparation] {
@@ -290,7 +295,7 @@ void HIDUpgradeDialog::reject()
     if (!confirmLeave(mContext, this))
         return;
     stopAsking();
-    mpTask->cancel(); // a backup that is being made is finished, but nothing follows
+    mpTask->cancel(); // nothing follows a backup that is being made
     if (mState == State::Checking || mState == State::Waiting)
         setState(State::Idle);
     QDialog::reject();

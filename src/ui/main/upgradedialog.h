@@ -5,6 +5,7 @@
 
 #include <QDialog>
 #include <QTimer>
+#include <atomic>
 #include <functional>
 
 class LatestTask;
@@ -32,8 +33,8 @@ public:
     /// What the file is for; decides on captions, and a font file is asked for only once.
     enum class Mode { Firmware, FontFile };
     /// Saves the configuration. @return the folder, empty when it failed. Runs on a thread of its own, one
-    /// call at a time, and may take long; the dialog's destruction waits for it.
-    using Backup = std::function<QString()>;
+    /// call at a time, and may take long, unless @p cancelled: the dialog's destruction waits for it.
+    using Backup = std::function<QString(const std::atomic<bool> &cancelled)>;
 
     static constexpr int RetryPeriod = 100; ///< ms between two requests to a panel that is not ready
     static constexpr int MaxLines = 20'000; ///< in the message area; the oldest go first
