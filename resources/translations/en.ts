@@ -103,6 +103,17 @@
     </message>
 </context>
 <context>
+    <name>BrightnessRow</name>
+    <message>
+        <source>The panel is not connected.</source>
+        <translation>The panel is not connected.</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>not known yet</translation>
+    </message>
+</context>
+<context>
     <name>ColourButton</name>
     <message>
         <source>White</source>
@@ -1261,6 +1272,57 @@
     </message>
 </context>
 <context>
+    <name>PanelReset</name>
+    <message>
+        <source>All keys on the panel are lost, with their pictures, videos and action lists. What is on this computer stays, and is saved as a backup first; importing that to the panel brings the keys back.</source>
+        <translation>All keys on the panel are lost, with their pictures, videos and action lists. What is on this computer stays, and is saved as a backup first; importing that to the panel brings the keys back.</translation>
+    </message>
+    <message>
+        <source>All keys, with their pictures, videos and action lists, and all panel layouts are lost, on the panel and on this computer. What is on this computer is saved as a backup first. “Undo” in the editor brings it back until the program ends, the backup at any time. What only the panel holds cannot be brought back.</source>
+        <translation>All keys, with their pictures, videos and action lists, and all panel layouts are lost, on the panel and on this computer. What is on this computer is saved as a backup first. “Undo” in the editor brings it back until the program ends, the backup at any time. What only the panel holds cannot be brought back.</translation>
+    </message>
+    <message>
+        <source>The configuration could not be saved. Go on all the same?</source>
+        <translation>The configuration could not be saved. Go on all the same?</translation>
+    </message>
+    <message>
+        <source>There would be no backup to bring it back from.</source>
+        <translation>There would be no backup to bring it back from.</translation>
+    </message>
+    <message>
+        <source>The backup does not hold everything. Go on all the same?</source>
+        <translation>The backup does not hold everything. Go on all the same?</translation>
+    </message>
+    <message>
+        <source>The panel did not take it. Nothing was cleared.</source>
+        <translation>The panel did not take it. Nothing was cleared.</translation>
+    </message>
+    <message>
+        <source>All data has been reset. “Undo” in the editor brings back what was on this computer, until the program ends.</source>
+        <translation>All data has been reset. “Undo” in the editor brings back what was on this computer, until the program ends.</translation>
+    </message>
+    <message>
+        <source>Before, the configuration was saved in %1</source>
+        <translation>Before, the configuration was saved in %1</translation>
+    </message>
+    <message>
+        <source>The configuration is being saved: %1 %</source>
+        <translation>The configuration is being saved: %1 %</translation>
+    </message>
+    <message>
+        <source>Waiting until the panel has been cleared.</source>
+        <translation>Waiting until the panel has been cleared.</translation>
+    </message>
+    <message>
+        <source>Waiting until the panel has been read.</source>
+        <translation>Waiting until the panel has been read.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>and %1 more</translation>
+    </message>
+</context>
+<context>
     <name>PendingEdits</name>
     <message>
         <source>Waits for the panel</source>
@@ -1588,6 +1650,41 @@
     </message>
 </context>
 <context>
+    <name>SettingsSwitches</name>
+    <message>
+        <source>The setting could not be saved. Is the disk full?</source>
+        <translation>The setting could not be saved. Is the disk full?</translation>
+    </message>
+    <message>
+        <source>Synchronise by itself</source>
+        <translation>Synchronise by itself</translation>
+    </message>
+    <message>
+        <source>When the program starts, it looks for the panel and reads its configuration. Off: the panel is read only on request.</source>
+        <translation>When the program starts, it looks for the panel and reads its configuration. Off: the panel is read only on request.</translation>
+    </message>
+    <message>
+        <source>Write what is sent into the log</source>
+        <translation>Write what is sent into the log</translation>
+    </message>
+    <message>
+        <source>Every report to the panel is written into the log, byte for byte. The log grows fast.</source>
+        <translation>Every report to the panel is written into the log, byte for byte. The log grows fast.</translation>
+    </message>
+    <message>
+        <source>Custom layouts are still to be loaded</source>
+        <translation>Custom layouts are still to be loaded</translation>
+    </message>
+    <message>
+        <source>Takes effect when the program is started again.</source>
+        <translation>Takes effect when the program is started again.</translation>
+    </message>
+    <message>
+        <source>A mark that the panel has yet to send its layouts. The program takes it away once they have come; nothing else depends on it.</source>
+        <translation>A mark that the panel has yet to send its layouts. The program takes it away once they have come; nothing else depends on it.</translation>
+    </message>
+</context>
+<context>
     <name>StatusFrame</name>
     <message>
         <source>Connected</source>
@@ -1736,10 +1833,6 @@
         <translation>Home layout:</translation>
     </message>
     <message>
-        <source>Custom layout:</source>
-        <translation>Custom layout:</translation>
-    </message>
-    <message>
         <source>Folder of the logs:</source>
         <translation>Folder of the logs:</translation>
     </message>
@@ -1754,6 +1847,58 @@
     <message>
         <source>The panel is not connected.</source>
         <translation>The panel is not connected.</translation>
+    </message>
+    <message>
+        <source>Another one (%1)</source>
+        <translation>Another one (%1)</translation>
+    </message>
+    <message>
+        <source>The panel is being cleared.</source>
+        <translation>The panel is being cleared.</translation>
+    </message>
+    <message>
+        <source>The panel is being read.</source>
+        <translation>The panel is being read.</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>Panel</translation>
+    </message>
+    <message>
+        <source>Care of the panel</source>
+        <translation>Care of the panel</translation>
+    </message>
+    <message>
+        <source>Switches</source>
+        <translation>Switches</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Folders</translation>
+    </message>
+    <message>
+        <source>Clears the panel. What is on this computer stays.</source>
+        <translation>Clears the panel. What is on this computer stays.</translation>
+    </message>
+    <message>
+        <source>Clears the panel and what is on this computer: keys, layouts and action lists.</source>
+        <translation>Clears the panel and what is on this computer: keys, layouts and action lists.</translation>
+    </message>
+    <message>
+        <source>Sends a firmware file to the panel. The configuration is saved first.</source>
+        <translation>Sends a firmware file to the panel. The configuration is saved first.</translation>
+    </message>
+    <message>
+        <source>Sends a font file to the panel. The configuration is saved first.</source>
+        <translation>Sends a font file to the panel. The configuration is saved first.</translation>
+    </message>
+    <message>
+        <source>Addresses for a panel in a network. They are only written into the log: panels have no command for them yet.</source>
+        <translation>Addresses for a panel in a network. They are only written into the log: panels have no command for them yet.</translation>
     </message>
 </context>
 <context>

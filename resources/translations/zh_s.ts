@@ -103,6 +103,17 @@
     </message>
 </context>
 <context>
+    <name>BrightnessRow</name>
+    <message>
+        <source>The panel is not connected.</source>
+        <translation>面板未连接。</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>尚未获知</translation>
+    </message>
+</context>
+<context>
     <name>ColourButton</name>
     <message>
         <source>White</source>
@@ -287,21 +298,6 @@
     </message>
 </context>
 <context>
-    <name>CropDialog</name>
-    <message>
-        <source>%1 x %2 pixels</source>
-        <translation>%1 x %2 像素</translation>
-    </message>
-    <message>
-        <source>Reading the picture...</source>
-        <translation>正在读取图片……</translation>
-    </message>
-    <message>
-        <source>This file is a video, no picture.</source>
-        <translation>此文件是视频，不是图片。</translation>
-    </message>
-</context>
-<context>
     <name>CropPanel</name>
     <message>
         <source>Zoom:</source>
@@ -326,13 +322,6 @@
     <message>
         <source>Drag the picture or use the arrow keys to move it. The wheel, + and - zoom.</source>
         <translation>拖动图片或使用方向键可移动图片，使用滚轮、+ 和 - 可缩放。</translation>
-    </message>
-</context>
-<context>
-    <name>CustomLayouts</name>
-    <message>
-        <source>Some lines cannot be read. The file as it was is kept beside it.</source>
-        <translation>有些行无法读取。原文件已保存在旁边。</translation>
     </message>
 </context>
 <context>
@@ -868,7 +857,7 @@
     </message>
     <message>
         <source>The panel has not taken the home layout.</source>
-        <translation>面板没有接受首页布局。</translation>
+        <translation>面板未接受首页布局。</translation>
     </message>
 </context>
 <context>
@@ -1034,10 +1023,6 @@
     <message>
         <source>The background is still being prepared. Save when it is shown.</source>
         <translation>背景仍在准备中，请在其显示后保存。</translation>
-    </message>
-    <message>
-        <source>It is the home layout: choose another one for the panel to start with.</source>
-        <translation>它是首页布局：请为面板另选一个启动时显示的布局。</translation>
     </message>
 </context>
 <context>
@@ -1261,6 +1246,57 @@
     </message>
 </context>
 <context>
+    <name>PanelReset</name>
+    <message>
+        <source>All keys on the panel are lost, with their pictures, videos and action lists. What is on this computer stays, and is saved as a backup first; importing that to the panel brings the keys back.</source>
+        <translation>面板上的所有按键及其图片、视频和操作列表都将丢失。本计算机上的内容保留不变，并会先保存为备份；将备份导入面板即可恢复按键。</translation>
+    </message>
+    <message>
+        <source>All keys, with their pictures, videos and action lists, and all panel layouts are lost, on the panel and on this computer. What is on this computer is saved as a backup first. “Undo” in the editor brings it back until the program ends, the backup at any time. What only the panel holds cannot be brought back.</source>
+        <translation>面板和本计算机上的所有按键（包括图片、视频和操作列表）以及所有面板布局都将丢失。本计算机上的内容会先保存为备份。在程序结束之前，可在编辑器中用“撤销”恢复；用备份则随时可以恢复。只存在于面板上的内容无法恢复。</translation>
+    </message>
+    <message>
+        <source>The configuration could not be saved. Go on all the same?</source>
+        <translation>无法保存配置。仍要继续吗？</translation>
+    </message>
+    <message>
+        <source>There would be no backup to bring it back from.</source>
+        <translation>那样就没有可用于恢复的备份。</translation>
+    </message>
+    <message>
+        <source>The backup does not hold everything. Go on all the same?</source>
+        <translation>备份不完整。仍要继续吗？</translation>
+    </message>
+    <message>
+        <source>The panel did not take it. Nothing was cleared.</source>
+        <translation>面板未接受。没有清除任何内容。</translation>
+    </message>
+    <message>
+        <source>All data has been reset. “Undo” in the editor brings back what was on this computer, until the program ends.</source>
+        <translation>所有数据已重置。在程序结束之前，可在编辑器中用“撤销”恢复本计算机上的内容。</translation>
+    </message>
+    <message>
+        <source>Before, the configuration was saved in %1</source>
+        <translation>配置事先已保存在 %1</translation>
+    </message>
+    <message>
+        <source>The configuration is being saved: %1 %</source>
+        <translation>正在保存配置：%1 %</translation>
+    </message>
+    <message>
+        <source>Waiting until the panel has been cleared.</source>
+        <translation>正在等待面板清除完毕。</translation>
+    </message>
+    <message>
+        <source>Waiting until the panel has been read.</source>
+        <translation>正在等待面板读取完毕。</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>以及另外 %1 项</translation>
+    </message>
+</context>
+<context>
     <name>PendingEdits</name>
     <message>
         <source>Waits for the panel</source>
@@ -1471,25 +1507,6 @@
     </message>
 </context>
 <context>
-    <name>PictureUploadTarget</name>
-    <message>
-        <source>No key is selected in the editor.</source>
-        <translation>编辑器中没有选中按键。</translation>
-    </message>
-    <message>
-        <source>The selected key has no function. Give it one in the editor first.</source>
-        <translation>选中的按键没有功能。请先在编辑器中为它设置功能。</translation>
-    </message>
-    <message>
-        <source>The selected key has no video function. Give it one in the editor first.</source>
-        <translation>选中的按键没有视频功能。请先在编辑器中为它设置。</translation>
-    </message>
-    <message>
-        <source>Key %1 of %2</source>
-        <translation>按键 %1，%2</translation>
-    </message>
-</context>
-<context>
     <name>PictureUploadVideo</name>
     <message>
         <source>%1 x %2 pixels</source>
@@ -1585,6 +1602,41 @@
     <message>
         <source>Restore Defaults</source>
         <translation>恢复默认值</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsSwitches</name>
+    <message>
+        <source>The setting could not be saved. Is the disk full?</source>
+        <translation>无法保存设置。磁盘是否已满？</translation>
+    </message>
+    <message>
+        <source>Synchronise by itself</source>
+        <translation>自动同步</translation>
+    </message>
+    <message>
+        <source>When the program starts, it looks for the panel and reads its configuration. Off: the panel is read only on request.</source>
+        <translation>程序启动时查找面板并读取其配置。关闭时，仅在要求时读取面板。</translation>
+    </message>
+    <message>
+        <source>Write what is sent into the log</source>
+        <translation>将发送内容写入日志</translation>
+    </message>
+    <message>
+        <source>Every report to the panel is written into the log, byte for byte. The log grows fast.</source>
+        <translation>发送给面板的每个报文都逐字节写入日志。日志会迅速变大。</translation>
+    </message>
+    <message>
+        <source>Custom layouts are still to be loaded</source>
+        <translation>自定义布局尚待加载</translation>
+    </message>
+    <message>
+        <source>Takes effect when the program is started again.</source>
+        <translation>重新启动程序后生效。</translation>
+    </message>
+    <message>
+        <source>A mark that the panel has yet to send its layouts. The program takes it away once they have come; nothing else depends on it.</source>
+        <translation>标记面板尚未发送其布局。收到布局后程序会自动取消此标记；此外没有其他作用。</translation>
     </message>
 </context>
 <context>
@@ -1736,10 +1788,6 @@
         <translation>首页布局：</translation>
     </message>
     <message>
-        <source>Custom layout:</source>
-        <translation>自定义布局：</translation>
-    </message>
-    <message>
         <source>Folder of the logs:</source>
         <translation>日志文件夹：</translation>
     </message>
@@ -1754,6 +1802,58 @@
     <message>
         <source>The panel is not connected.</source>
         <translation>面板未连接。</translation>
+    </message>
+    <message>
+        <source>Another one (%1)</source>
+        <translation>其他（%1）</translation>
+    </message>
+    <message>
+        <source>The panel is being cleared.</source>
+        <translation>正在清除面板。</translation>
+    </message>
+    <message>
+        <source>The panel is being read.</source>
+        <translation>正在读取面板。</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>程序</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>面板</translation>
+    </message>
+    <message>
+        <source>Care of the panel</source>
+        <translation>面板维护</translation>
+    </message>
+    <message>
+        <source>Switches</source>
+        <translation>开关</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>Clears the panel. What is on this computer stays.</source>
+        <translation>清除面板。本计算机上的内容保留不变。</translation>
+    </message>
+    <message>
+        <source>Clears the panel and what is on this computer: keys, layouts and action lists.</source>
+        <translation>清除面板以及本计算机上的按键、布局和操作列表。</translation>
+    </message>
+    <message>
+        <source>Sends a firmware file to the panel. The configuration is saved first.</source>
+        <translation>向面板发送固件文件。会先保存配置。</translation>
+    </message>
+    <message>
+        <source>Sends a font file to the panel. The configuration is saved first.</source>
+        <translation>向面板发送字库文件。会先保存配置。</translation>
+    </message>
+    <message>
+        <source>Addresses for a panel in a network. They are only written into the log: panels have no command for them yet.</source>
+        <translation>网络中面板的地址。仅写入日志：面板目前还没有相应的命令。</translation>
     </message>
 </context>
 <context>

@@ -103,6 +103,17 @@
     </message>
 </context>
 <context>
+    <name>BrightnessRow</name>
+    <message>
+        <source>The panel is not connected.</source>
+        <translation>面板未連線。</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>尚未得知</translation>
+    </message>
+</context>
+<context>
     <name>ColourButton</name>
     <message>
         <source>White</source>
@@ -287,21 +298,6 @@
     </message>
 </context>
 <context>
-    <name>CropDialog</name>
-    <message>
-        <source>%1 x %2 pixels</source>
-        <translation>%1 x %2 像素</translation>
-    </message>
-    <message>
-        <source>Reading the picture...</source>
-        <translation>正在讀取圖片……</translation>
-    </message>
-    <message>
-        <source>This file is a video, no picture.</source>
-        <translation>此檔案是影片，不是圖片。</translation>
-    </message>
-</context>
-<context>
     <name>CropPanel</name>
     <message>
         <source>Zoom:</source>
@@ -326,13 +322,6 @@
     <message>
         <source>Drag the picture or use the arrow keys to move it. The wheel, + and - zoom.</source>
         <translation>拖曳圖片或使用方向鍵可移動圖片，使用滾輪、+ 和 - 可縮放。</translation>
-    </message>
-</context>
-<context>
-    <name>CustomLayouts</name>
-    <message>
-        <source>Some lines cannot be read. The file as it was is kept beside it.</source>
-        <translation>有些行無法讀取。原檔案已保存在旁邊。</translation>
     </message>
 </context>
 <context>
@@ -868,7 +857,7 @@
     </message>
     <message>
         <source>The panel has not taken the home layout.</source>
-        <translation>面板沒有接受首頁版面。</translation>
+        <translation>面板未接受首頁版面。</translation>
     </message>
 </context>
 <context>
@@ -1034,10 +1023,6 @@
     <message>
         <source>The background is still being prepared. Save when it is shown.</source>
         <translation>背景仍在準備中，請在其顯示後儲存。</translation>
-    </message>
-    <message>
-        <source>It is the home layout: choose another one for the panel to start with.</source>
-        <translation>它是首頁版面：請為面板另選一個啟動時顯示的版面。</translation>
     </message>
 </context>
 <context>
@@ -1261,6 +1246,57 @@
     </message>
 </context>
 <context>
+    <name>PanelReset</name>
+    <message>
+        <source>All keys on the panel are lost, with their pictures, videos and action lists. What is on this computer stays, and is saved as a backup first; importing that to the panel brings the keys back.</source>
+        <translation>面板上的所有按鍵及其圖片、影片和動作清單都將遺失。本電腦上的內容保留不變，並會先儲存為備份；將備份匯入面板即可還原按鍵。</translation>
+    </message>
+    <message>
+        <source>All keys, with their pictures, videos and action lists, and all panel layouts are lost, on the panel and on this computer. What is on this computer is saved as a backup first. “Undo” in the editor brings it back until the program ends, the backup at any time. What only the panel holds cannot be brought back.</source>
+        <translation>面板和本電腦上的所有按鍵（包括圖片、影片和動作清單）以及所有面板版面都將遺失。本電腦上的內容會先儲存為備份。在程式結束之前，可在編輯器中用「復原」還原；用備份則隨時可以還原。只存在於面板上的內容無法還原。</translation>
+    </message>
+    <message>
+        <source>The configuration could not be saved. Go on all the same?</source>
+        <translation>無法儲存設定。仍要繼續嗎？</translation>
+    </message>
+    <message>
+        <source>There would be no backup to bring it back from.</source>
+        <translation>那樣就沒有可用於還原的備份。</translation>
+    </message>
+    <message>
+        <source>The backup does not hold everything. Go on all the same?</source>
+        <translation>備份不完整。仍要繼續嗎？</translation>
+    </message>
+    <message>
+        <source>The panel did not take it. Nothing was cleared.</source>
+        <translation>面板未接受。沒有清除任何內容。</translation>
+    </message>
+    <message>
+        <source>All data has been reset. “Undo” in the editor brings back what was on this computer, until the program ends.</source>
+        <translation>所有資料已重設。在程式結束之前，可在編輯器中用「復原」還原本電腦上的內容。</translation>
+    </message>
+    <message>
+        <source>Before, the configuration was saved in %1</source>
+        <translation>設定事先已儲存在 %1</translation>
+    </message>
+    <message>
+        <source>The configuration is being saved: %1 %</source>
+        <translation>正在儲存設定：%1 %</translation>
+    </message>
+    <message>
+        <source>Waiting until the panel has been cleared.</source>
+        <translation>正在等待面板清除完畢。</translation>
+    </message>
+    <message>
+        <source>Waiting until the panel has been read.</source>
+        <translation>正在等待面板讀取完畢。</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>以及另外 %1 項</translation>
+    </message>
+</context>
+<context>
     <name>PendingEdits</name>
     <message>
         <source>Waits for the panel</source>
@@ -1471,25 +1507,6 @@
     </message>
 </context>
 <context>
-    <name>PictureUploadTarget</name>
-    <message>
-        <source>No key is selected in the editor.</source>
-        <translation>編輯器中沒有選取按鍵。</translation>
-    </message>
-    <message>
-        <source>The selected key has no function. Give it one in the editor first.</source>
-        <translation>選取的按鍵沒有功能。請先在編輯器中為它設定功能。</translation>
-    </message>
-    <message>
-        <source>The selected key has no video function. Give it one in the editor first.</source>
-        <translation>選取的按鍵沒有影片功能。請先在編輯器中為它設定。</translation>
-    </message>
-    <message>
-        <source>Key %1 of %2</source>
-        <translation>按鍵 %1，%2</translation>
-    </message>
-</context>
-<context>
     <name>PictureUploadVideo</name>
     <message>
         <source>%1 x %2 pixels</source>
@@ -1585,6 +1602,41 @@
     <message>
         <source>Restore Defaults</source>
         <translation>還原預設值</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsSwitches</name>
+    <message>
+        <source>The setting could not be saved. Is the disk full?</source>
+        <translation>無法儲存設定。磁碟是否已滿？</translation>
+    </message>
+    <message>
+        <source>Synchronise by itself</source>
+        <translation>自動同步</translation>
+    </message>
+    <message>
+        <source>When the program starts, it looks for the panel and reads its configuration. Off: the panel is read only on request.</source>
+        <translation>程式啟動時尋找面板並讀取其設定。關閉時，僅在要求時讀取面板。</translation>
+    </message>
+    <message>
+        <source>Write what is sent into the log</source>
+        <translation>將傳送內容寫入記錄檔</translation>
+    </message>
+    <message>
+        <source>Every report to the panel is written into the log, byte for byte. The log grows fast.</source>
+        <translation>傳送給面板的每個報文都逐位元組寫入記錄檔。記錄檔會迅速變大。</translation>
+    </message>
+    <message>
+        <source>Custom layouts are still to be loaded</source>
+        <translation>自訂版面尚待載入</translation>
+    </message>
+    <message>
+        <source>Takes effect when the program is started again.</source>
+        <translation>重新啟動程式後生效。</translation>
+    </message>
+    <message>
+        <source>A mark that the panel has yet to send its layouts. The program takes it away once they have come; nothing else depends on it.</source>
+        <translation>標記面板尚未傳送其版面。收到版面後程式會自動取消此標記；此外沒有其他作用。</translation>
     </message>
 </context>
 <context>
@@ -1736,10 +1788,6 @@
         <translation>首頁版面：</translation>
     </message>
     <message>
-        <source>Custom layout:</source>
-        <translation>自訂版面：</translation>
-    </message>
-    <message>
         <source>Folder of the logs:</source>
         <translation>記錄檔資料夾：</translation>
     </message>
@@ -1754,6 +1802,58 @@
     <message>
         <source>The panel is not connected.</source>
         <translation>面板未連線。</translation>
+    </message>
+    <message>
+        <source>Another one (%1)</source>
+        <translation>其他（%1）</translation>
+    </message>
+    <message>
+        <source>The panel is being cleared.</source>
+        <translation>正在清除面板。</translation>
+    </message>
+    <message>
+        <source>The panel is being read.</source>
+        <translation>正在讀取面板。</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>程式</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>面板</translation>
+    </message>
+    <message>
+        <source>Care of the panel</source>
+        <translation>面板維護</translation>
+    </message>
+    <message>
+        <source>Switches</source>
+        <translation>開關</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>資料夾</translation>
+    </message>
+    <message>
+        <source>Clears the panel. What is on this computer stays.</source>
+        <translation>清除面板。本電腦上的內容保留不變。</translation>
+    </message>
+    <message>
+        <source>Clears the panel and what is on this computer: keys, layouts and action lists.</source>
+        <translation>清除面板以及本電腦上的按鍵、版面和動作清單。</translation>
+    </message>
+    <message>
+        <source>Sends a firmware file to the panel. The configuration is saved first.</source>
+        <translation>向面板傳送韌體檔案。會先儲存設定。</translation>
+    </message>
+    <message>
+        <source>Sends a font file to the panel. The configuration is saved first.</source>
+        <translation>向面板傳送字型庫檔案。會先儲存設定。</translation>
+    </message>
+    <message>
+        <source>Addresses for a panel in a network. They are only written into the log: panels have no command for them yet.</source>
+        <translation>網路中面板的位址。僅寫入記錄檔：面板目前還沒有相應的命令。</translation>
     </message>
 </context>
 <context>

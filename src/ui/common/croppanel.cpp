@@ -1,6 +1,7 @@
 #include "croppanel.h"
 
 #include "cropview.h"
+#include "style.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -19,11 +20,7 @@ constexpr char PanelStyle[] =
     "QToolButton {background-color: rgb(70, 70, 70);color: white;border: 1px solid rgb(108, 108, 108);"
     "border-radius: 4px;font-size: 16px;min-width: 26px;min-height: 26px;}"
     "QToolButton:hover, QToolButton:focus {border-color: rgb(0, 160, 255);}"
-    "QToolButton:disabled {color: rgb(108, 108, 108);border-color: rgb(80, 80, 80);}"
-    "QSlider::groove:horizontal {background-color: rgb(92, 92, 92);height: 4px;border-radius: 2px;}"
-    "QSlider::handle:horizontal {background-color: white;width: 14px;margin: -5px 0;border-radius: 7px;}"
-    "QSlider::handle:horizontal:focus {background-color: rgb(0, 160, 255);}"
-    "QSlider::handle:horizontal:disabled {background-color: rgb(108, 108, 108);}";
+    "QToolButton:disabled {color: rgb(108, 108, 108);border-color: rgb(80, 80, 80);}";
 
 int sliderPosition(double zoom)
 {
@@ -45,7 +42,7 @@ CropPanel::CropPanel(QWidget *parent)
     , mpSlider(new QSlider(Qt::Horizontal, this))
     , mpLarger(new QToolButton(this))
 {
-    setStyleSheet(QString::fromLatin1(PanelStyle));
+    setStyleSheet(QString::fromLatin1(PanelStyle) + QString::fromLatin1(Style::Slider));
     mpView->setObjectName(QStringLiteral("cropView"));
     mpSlider->setObjectName(QStringLiteral("zoom"));
     mpSlider->setRange(0, SliderSteps);

@@ -38,11 +38,21 @@ inline constexpr char Page[] =
     "QRadioButton::indicator {width: 14px;height: 14px;border: 2px solid rgb(160, 160, 160);border-radius: "
     "9px;}"
     "QRadioButton::indicator:checked {background-color: rgb(0, 160, 255);border-color: white;}"
-    "QRadioButton:focus {color: rgb(0, 160, 255);}"
+    "QRadioButton:focus, QCheckBox:focus {color: rgb(0, 160, 255);}"
+    "QCheckBox {color: white;font-size: 14px;}"
+    "QCheckBox::indicator {width: 14px;height: 14px;border: 2px solid rgb(160, 160, 160);border-radius: 3px;}"
+    "QCheckBox::indicator:checked {background-color: rgb(0, 160, 255);border-color: white;}"
     "QLineEdit, QListWidget, QPushButton {font-size: 14px;}"
     "#caption {font-size: 20px;}"
     "QListWidget::item {padding: 8px 4px;}"
     "QListWidget::item:selected {background-color: rgb(0, 160, 255);color: white;}";
+inline constexpr char Slider[] =
+    "QSlider::groove:horizontal {background-color: rgb(92, 92, 92);height: 4px;border-radius: 2px;}"
+    "QSlider::sub-page:horizontal {background-color: rgb(0, 160, 255);border-radius: 2px;}"
+    "QSlider::sub-page:horizontal:disabled {background-color: rgb(92, 92, 92);}"
+    "QSlider::handle:horizontal {background-color: white;width: 14px;margin: -5px 0;border-radius: 7px;}"
+    "QSlider::handle:horizontal:focus {background-color: rgb(0, 160, 255);border: 1px solid white;}"
+    "QSlider::handle:horizontal:disabled {background-color: rgb(108, 108, 108);}";
 inline constexpr char StatusFrame[] =
     "#statusframe, #statusframe QLabel {background-color: rgb(40, 40, 40);color: white;font-size: 13px;}";
 inline constexpr char FuncTabFrame[] =

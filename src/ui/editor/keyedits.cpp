@@ -111,10 +111,14 @@ void KeyEdits::change(const QString &text, const QVector<key_id_t> &keys, const 
         flush();
         mBefore.clear();
     }
+    QVector<key_id_t> others;
     for (const key_id_t &key : keys) {
         if (!mBefore.contains(key))
-            mBefore.insert(key, captureKeyState(mStore, key));
+            others.append(key);
     }
+    const States states = capture(others);
+    for (auto entry = states.cbegin(); entry != states.cend(); ++entry)
+        mBefore.insert(entry.key(), *entry);
     ++mDepth;
     change();
     if (--mDepth == 0)

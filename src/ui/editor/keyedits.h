@@ -89,6 +89,9 @@ public:
     /// of every page that came. A difference that a person would notice becomes a step.
     void endRead(bool whole, const QVector<vorlinmodel::key_id_t> &received);
 
+    /// The panel has just cleared all its keys: one step that takes them away here, too. Undo sends them.
+    void takePanelCleared(const QString &text);
+
     bool saveNow() { return mFiles.saveNow(); } ///< @return false when a file could not be written
     /// False when the records of the last run could not be read: files may belong to keys that this run does
     /// not know.

@@ -1,4 +1,4 @@
-// When a panel comes, and when its configuration is read.
+// When a panel comes, and when its configuration is read or cleared.
 #include "keychangecommand.h"
 #include "keyedits.h"
 #include "model/ifunctionmanager.h"
@@ -140,4 +140,18 @@ void KeyEdits::recordRead()
     if (!changes.isEmpty())
         mHistory.push(new KeyChangeCommand(*this, tr("Read from the panel"), changes)); // owned by the stack
     emit sigKeysChanged(mBeforeRead.keys().toVector());
+}
+
+void KeyEdits::takePanelCleared(const QString &text)
+{
+    QVector<KeyPlacement> placements;
+    for (const key_id_t &key : mStore.getKeys())
+        placements.append({key, {}});
+    mIsSilent = true;
+    place(text, placements);
+    mIsSilent = false;
+    // What was posted meanwhile reaches the panel after it has been cleared, or does so at the next
+    // connection.
+    for (const key_id_t &key : mPending.keys())
+        send(key, 0, AttributeId::ClearKey);
 }

@@ -51,6 +51,8 @@ inline constexpr char ReadAgain[] =
 inline constexpr char TextStaysOnClipboard[] =
     "Ctrl+V cannot be pressed here, the text stays on the clipboard\n";
 inline constexpr char KeysNotSaved[] = "The keys could not be written to the disk at the end\n";
+inline constexpr char SetupDialogError[] = "The dialog %s could not be set up\n";
+inline constexpr char PanelReset[] = "The panel is cleared, and the computer: %d; saved before in [%s]\n";
 inline constexpr char NoWorkerThread[] = "No thread for a received message (%s), it is handled in between\n";
 
 } // namespace LogText

@@ -138,10 +138,11 @@ bool MainFrame::setupPictureUploadPage()
 
 bool MainFrame::setupSystemSettingsPage()
 {
-    mpSystemSettings = new SystemSettingsPage(*mContext.framework.languageManager(), mDesktop, this);
+    mpSystemSettings = new SystemSettingsPage(mContext, mDesktop, this);
     if (!take(mpSystemSettings, LogText::SetupSystemSettingsError))
         return false;
     connect(mpSystemSettings, &SystemSettingsPage::sigHomeLayoutChosen, this, &MainFrame::chooseHomeLayout);
+    mpSystemSettings->setReading(mReading);
     showHomeLayout();
     return true;
 }
@@ -170,7 +171,7 @@ void MainFrame::showCurrentPage()
         mpPictureUpload->setKey(mpFunctionConfig->currentKey());
     if (mCurrentPage == SystemSettings) {
         mpSystemSettings->refresh(mDeviceValues);
-        askForBrightness();
+        askForPanelValues();
     }
     for (int index = FunctionConfiguration; index <= SystemSettings; ++index) {
         if (QWidget *widget = page(index); widget && index != mCurrentPage)
@@ -180,13 +181,17 @@ void MainFrame::showCurrentPage()
     page(mCurrentPage)->show();
 }
 
-/// The panel reports it only when asked. The home layout is not asked for: the answer would replace where the
-/// child-page keys lead in the settings.
-void MainFrame::askForBrightness()
+/// The panel reports them only when asked. The home layout is not asked for: the answer would replace where
+/// the child-page keys lead in the settings.
+void MainFrame::askForPanelValues()
 {
+    using vorlinmodel::RequestKind;
     constexpr int query = 255;
-    if (mConnected && !isTransferInProgress())
-        mContext.framework.sendRequest(vorlinmodel::RequestKind::MD_FUNCTION_CODE_LCD_LIGHT, query);
+    if (!mConnected || isTransferInProgress())
+        return;
+    for (const RequestKind kind :
+         {RequestKind::MD_FUNCTION_CODE_LCD_LIGHT, RequestKind::MD_FUNCTION_CODE_SYSTEM_TYPE})
+        mContext.framework.sendRequest(kind, query);
 }
 
 void MainFrame::showHomeButton()
@@ -220,6 +225,8 @@ void MainFrame::setReading(bool reading)
     mReading = reading;
     if (mpLayoutPage)
         mpLayoutPage->setEnabled(!reading);
+    if (mpSystemSettings)
+        mpSystemSettings->setReading(reading);
 }
 
 void MainFrame::showDeviceValue(int code, const QString &value)
@@ -233,8 +240,11 @@ void MainFrame::showDeviceValue(int code, const QString &value)
 
 void MainFrame::setConnected(bool connected)
 {
+    const bool came = connected && !mConnected;
     mConnected = connected;
     showHomeLayout();
+    if (came && mCurrentPage == SystemSettings)
+        askForPanelValues();
 }
 
 /// On every page on which it can be chosen.
@@ -245,7 +255,7 @@ void MainFrame::showHomeLayout()
     if (mpLayoutPage)
         mpLayoutPage->showPanel(mConnected, layoutId);
     if (mpSystemSettings)
-        mpSystemSettings->showHomeLayout(mConnected, layoutId);
+        mpSystemSettings->showPanel(mConnected, layoutId);
 }
 
 void MainFrame::chooseHomeLayout(int layoutId)

@@ -71,7 +71,7 @@ private:
     QWidget *page(int index) const;
     void showCurrentPage();
     void showHomeButton();
-    void askForBrightness();
+    void askForPanelValues();
     void showInEditor(int layoutId);
     void showHomeLayout();
     void chooseHomeLayout(int layoutId);

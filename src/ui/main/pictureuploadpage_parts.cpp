@@ -25,10 +25,6 @@ constexpr int OptionsWidth = 264;
 constexpr int ProgressWidth = 200;
 
 constexpr char PageStyle[] =
-    "QCheckBox {color: white;font-size: 14px;}"
-    "QCheckBox::indicator {width: 14px;height: 14px;border: 2px solid rgb(160, 160, 160);border-radius: 3px;}"
-    "QCheckBox::indicator:checked {background-color: rgb(0, 160, 255);border-color: white;}"
-    "QCheckBox:focus {color: rgb(0, 160, 255);}"
     "QComboBox {font-size: 14px;}"
     "QComboBox::drop-down {border: none;width: 20px;}"
     "#setProblem, #facts {color: rgb(190, 190, 190);font-size: 13px;}"
