@@ -1274,14 +1274,6 @@
 <context>
     <name>PanelReset</name>
     <message>
-        <source>All keys on the panel are lost, with their pictures, videos and action lists. What is on this computer stays, and is saved as a backup first; importing that to the panel brings the keys back.</source>
-        <translation>All keys on the panel are lost, with their pictures, videos and action lists. What is on this computer stays, and is saved as a backup first; importing that to the panel brings the keys back.</translation>
-    </message>
-    <message>
-        <source>All keys, with their pictures, videos and action lists, and all panel layouts are lost, on the panel and on this computer. What is on this computer is saved as a backup first. “Undo” in the editor brings it back until the program ends, the backup at any time. What only the panel holds cannot be brought back.</source>
-        <translation>All keys, with their pictures, videos and action lists, and all panel layouts are lost, on the panel and on this computer. What is on this computer is saved as a backup first. “Undo” in the editor brings it back until the program ends, the backup at any time. What only the panel holds cannot be brought back.</translation>
-    </message>
-    <message>
         <source>The configuration could not be saved. Go on all the same?</source>
         <translation>The configuration could not be saved. Go on all the same?</translation>
     </message>
@@ -1320,6 +1312,22 @@
     <message>
         <source>and %1 more</source>
         <translation>and %1 more</translation>
+    </message>
+    <message>
+        <source>Lost on the panel: all keys with their pictures, videos and action lists.
+
+What is on this computer stays, and is saved as a backup first. Importing that to the panel brings the keys back.</source>
+        <translation>Lost on the panel: all keys with their pictures, videos and action lists.
+
+What is on this computer stays, and is saved as a backup first. Importing that to the panel brings the keys back.</translation>
+    </message>
+    <message>
+        <source>Lost on the panel and on this computer: all keys with their pictures, videos and action lists, and all panel layouts.
+
+What is on this computer is saved as a backup first. “Undo” in the editor brings it back until the program ends, the backup at any time. What only the panel holds cannot be brought back.</source>
+        <translation>Lost on the panel and on this computer: all keys with their pictures, videos and action lists, and all panel layouts.
+
+What is on this computer is saved as a backup first. “Undo” in the editor brings it back until the program ends, the backup at any time. What only the panel holds cannot be brought back.</translation>
     </message>
 </context>
 <context>

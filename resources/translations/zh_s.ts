@@ -1248,14 +1248,6 @@
 <context>
     <name>PanelReset</name>
     <message>
-        <source>All keys on the panel are lost, with their pictures, videos and action lists. What is on this computer stays, and is saved as a backup first; importing that to the panel brings the keys back.</source>
-        <translation>面板上的所有按键及其图片、视频和操作列表都将丢失。本计算机上的内容保留不变，并会先保存为备份；将备份导入面板即可恢复按键。</translation>
-    </message>
-    <message>
-        <source>All keys, with their pictures, videos and action lists, and all panel layouts are lost, on the panel and on this computer. What is on this computer is saved as a backup first. “Undo” in the editor brings it back until the program ends, the backup at any time. What only the panel holds cannot be brought back.</source>
-        <translation>面板和本计算机上的所有按键（包括图片、视频和操作列表）以及所有面板布局都将丢失。本计算机上的内容会先保存为备份。在程序结束之前，可在编辑器中用“撤销”恢复；用备份则随时可以恢复。只存在于面板上的内容无法恢复。</translation>
-    </message>
-    <message>
         <source>The configuration could not be saved. Go on all the same?</source>
         <translation>无法保存配置。仍要继续吗？</translation>
     </message>
@@ -1294,6 +1286,22 @@
     <message>
         <source>and %1 more</source>
         <translation>以及另外 %1 项</translation>
+    </message>
+    <message>
+        <source>Lost on the panel: all keys with their pictures, videos and action lists.
+
+What is on this computer stays, and is saved as a backup first. Importing that to the panel brings the keys back.</source>
+        <translation>面板上将丢失：所有按键及其图片、视频和操作列表。
+
+本计算机上的内容保留不变，并会先保存为备份。将备份导入面板即可恢复按键。</translation>
+    </message>
+    <message>
+        <source>Lost on the panel and on this computer: all keys with their pictures, videos and action lists, and all panel layouts.
+
+What is on this computer is saved as a backup first. “Undo” in the editor brings it back until the program ends, the backup at any time. What only the panel holds cannot be brought back.</source>
+        <translation>面板和本计算机上将丢失：所有按键及其图片、视频和操作列表，以及所有面板布局。
+
+本计算机上的内容会先保存为备份。在程序结束之前，可在编辑器中用“撤销”恢复；用备份则随时可以恢复。只存在于面板上的内容无法恢复。</translation>
     </message>
 </context>
 <context>

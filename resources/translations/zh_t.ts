@@ -1248,14 +1248,6 @@
 <context>
     <name>PanelReset</name>
     <message>
-        <source>All keys on the panel are lost, with their pictures, videos and action lists. What is on this computer stays, and is saved as a backup first; importing that to the panel brings the keys back.</source>
-        <translation>面板上的所有按鍵及其圖片、影片和動作清單都將遺失。本電腦上的內容保留不變，並會先儲存為備份；將備份匯入面板即可還原按鍵。</translation>
-    </message>
-    <message>
-        <source>All keys, with their pictures, videos and action lists, and all panel layouts are lost, on the panel and on this computer. What is on this computer is saved as a backup first. “Undo” in the editor brings it back until the program ends, the backup at any time. What only the panel holds cannot be brought back.</source>
-        <translation>面板和本電腦上的所有按鍵（包括圖片、影片和動作清單）以及所有面板版面都將遺失。本電腦上的內容會先儲存為備份。在程式結束之前，可在編輯器中用「復原」還原；用備份則隨時可以還原。只存在於面板上的內容無法還原。</translation>
-    </message>
-    <message>
         <source>The configuration could not be saved. Go on all the same?</source>
         <translation>無法儲存設定。仍要繼續嗎？</translation>
     </message>
@@ -1294,6 +1286,22 @@
     <message>
         <source>and %1 more</source>
         <translation>以及另外 %1 項</translation>
+    </message>
+    <message>
+        <source>Lost on the panel: all keys with their pictures, videos and action lists.
+
+What is on this computer stays, and is saved as a backup first. Importing that to the panel brings the keys back.</source>
+        <translation>面板上將遺失：所有按鍵及其圖片、影片和動作清單。
+
+本電腦上的內容保留不變，並會先儲存為備份。將備份匯入面板即可還原按鍵。</translation>
+    </message>
+    <message>
+        <source>Lost on the panel and on this computer: all keys with their pictures, videos and action lists, and all panel layouts.
+
+What is on this computer is saved as a backup first. “Undo” in the editor brings it back until the program ends, the backup at any time. What only the panel holds cannot be brought back.</source>
+        <translation>面板和本電腦上將遺失：所有按鍵及其圖片、影片和動作清單，以及所有面板版面。
+
+本電腦上的內容會先儲存為備份。在程式結束之前，可在編輯器中用「復原」還原；用備份則隨時可以還原。只存在於面板上的內容無法還原。</translation>
     </message>
 </context>
 <context>

@@ -85,13 +85,14 @@ bool PanelReset::confirm() const
     question.text = mContext.framework.languageManager()->Text(QuestionText);
     question.explanation =
         mKind == Kind::Format
-            ? tr("All keys on the panel are lost, with their pictures, videos and action lists. What is on "
-                 "this computer stays, and is saved as a backup first; importing that to the panel brings "
-                 "the keys back.")
-            : tr("All keys, with their pictures, videos and action lists, and all panel layouts are lost, on "
-                 "the panel and on this computer. What is on this computer is saved as a backup first. "
-                 "“Undo” in the editor brings it back until the program ends, the backup at any time. What "
-                 "only the panel holds cannot be brought back.");
+            ? tr("Lost on the panel: all keys with their pictures, videos and action lists.\n\n"
+                 "What is on this computer stays, and is saved as a backup first. Importing that to the "
+                 "panel brings the keys back.")
+            : tr("Lost on the panel and on this computer: all keys with their pictures, videos and action "
+                 "lists, and all panel layouts.\n\n"
+                 "What is on this computer is saved as a backup first. “Undo” in the editor brings it back "
+                 "until the program ends, the backup at any time. What only the panel holds cannot be "
+                 "brought back.");
     question.buttons = QMessageBox::Yes | QMessageBox::No;
     question.preset = QMessageBox::No;
     return MessageBox::question(mpWindow, question) == QMessageBox::Yes;

@@ -34,14 +34,24 @@ constexpr int code(FunctionCode functionCode)
     return static_cast<int>(functionCode);
 }
 
-/// A control that cannot be used says why.
-void enableUnless(QWidget *control, const QString &reason)
+} // namespace
+
+/// A control that cannot be used says why. The focus waits on the page for the control that had it: passing
+/// on, it would scroll the page to another one.
+void SystemSettingsPage::enableUnless(QWidget *control, const QString &reason)
 {
+    if (!reason.isEmpty() && control->hasFocus()) {
+        mpWaitingForFocus = control;
+        setFocus();
+    }
     control->setEnabled(reason.isEmpty());
     control->setToolTip(reason);
+    if (reason.isEmpty() && control == mpWaitingForFocus) {
+        mpWaitingForFocus = nullptr;
+        if (hasFocus())
+            control->setFocus();
+    }
 }
-
-} // namespace
 
 void SystemSettingsPage::refresh(const QMap<int, QString> &deviceValues)
 {

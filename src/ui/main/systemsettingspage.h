@@ -66,6 +66,7 @@ private:
     void fillSystemTypes();
     void showActions();
     QString whyNotNow() const;
+    void enableUnless(QWidget *control, const QString &reason);
 
     struct Action
     {
@@ -82,6 +83,7 @@ private:
     int mHomeLayout = 0;
     bool mConnected = false;
     bool mReading = false;
+    QWidget *mpWaitingForFocus = nullptr;
 
     QLabel *mpCaption;
     SettingsColumns *mpColumns = nullptr;
