@@ -12,6 +12,7 @@
 #include "panel_link/panelserver.h"
 #include "photographer.h"
 #include "picturepages.h"
+#include "settingspages.h"
 #include "ui_editor/functionconfigwidget.h"
 
 #include <QApplication>
@@ -36,20 +37,12 @@ QWidget *mainWindow()
     return nullptr;
 }
 
-void takeLanguages(Photographer &photographer, vorlindesk::LanguageManager &language)
+void takeAll(Photographer &photographer, vorlindesk::FrameworkContext &context, const QStringList &photos)
 {
-    constexpr std::pair<int, const char *> languages[] = {{1, "main_zh_s"}, {2, "main_zh_t"}, {0, "main_en"}};
-    for (const auto &[value, name] : languages) {
-        language.setLanguage(value);
-        photographer.take(name);
-    }
-}
-
-void takeAll(Photographer &photographer, vorlindesk::LanguageManager &language, const QStringList &photos)
-{
+    vorlindesk::LanguageManager &language = *context.languageManager();
     photographer.resize(SmallestSize);
     photographer.click(photographer.key(CombinationKey));
-    takeLanguages(photographer, language);
+    photographer.takeInEachLanguage(language, "main");
     photographer.click(photographer.key(5));
     photographer.take("attributes_text");
     photographer.click(photographer.key(12));
@@ -62,11 +55,11 @@ void takeAll(Photographer &photographer, vorlindesk::LanguageManager &language, 
     photographer.click(photographer.key(vorlinmodel::LastKeyId), true); // its key "Return"
     takeLayouts(photographer, language, photos.at(0));
     takePictureUpload(photographer, language, photos.at(1));
-    photographer.clickNamed("mSystemSetBtn");
-    photographer.take("settings");
     photographer.clickNamed("mFuncSetBtn");
     photographer.resize(LargeSize);
     photographer.take("main_large");
+    photographer.resize(SmallestSize);
+    takeSettings(photographer, context); // last: the panel restarts behind an upgrade
 }
 
 } // namespace
@@ -106,6 +99,6 @@ int main(int argc, char *argv[])
         return 1;
     }
     photographer.wait(3000); // the end of the read
-    takeAll(photographer, *context.languageManager(), photos);
+    takeAll(photographer, context, photos);
     return photographer.failed() ? 1 : 0;
 }

@@ -1,6 +1,7 @@
 /// Uses the window by mouse, and saves what it looks like.
 #pragma once
 
+#include "base/language.h"
 #include "ui_editor/keyboardwidget.h"
 #include "ui_editor/keywidget.h"
 
@@ -39,7 +40,24 @@ public:
         return condition();
     }
 
-    void take(const char *name) { take(name, mWindow); }
+    /// The whole window, or the dialog over it that has the name @p dialog.
+    void take(const char *name, const char *dialog = nullptr)
+    {
+        QWidget *what = dialog ? named(dialog) : &mWindow;
+        mFailed = mFailed || !what;
+        if (what)
+            take(name, *what);
+    }
+    /// English comes last, and stays.
+    void takeInEachLanguage(vorlindesk::LanguageManager &language, const char *name,
+                            const char *dialog = nullptr)
+    {
+        constexpr std::pair<int, const char *> languages[] = {{1, "_zh_s"}, {2, "_zh_t"}, {0, ""}};
+        for (const auto &[value, suffix] : languages) {
+            language.setLanguage(value);
+            take((QByteArray(name) + suffix).constData(), dialog);
+        }
+    }
     void take(const char *name, QWidget &widget)
     {
         wait(300);
@@ -107,7 +125,14 @@ public:
         wait(100);
     }
 
-    void clickNamed(const char *name) { click(mWindow.findChild<QWidget *>(QString::fromLatin1(name))); }
+    QWidget *named(const char *name) { return mWindow.findChild<QWidget *>(QString::fromLatin1(name)); }
+    void clickNamed(const char *name) { click(named(name)); }
+    void close(const char *dialog)
+    {
+        if (QWidget *widget = named(dialog))
+            widget->close();
+        wait(300);
+    }
     void resize(QSize size)
     {
         mWindow.resize(size);

@@ -19,7 +19,6 @@
 namespace {
 
 constexpr QSize PhotoSize(1200, 800);
-constexpr std::pair<int, const char *> Languages[] = {{1, "_zh_s"}, {2, "_zh_t"}, {0, ""}};
 
 struct Scenery
 {
@@ -57,14 +56,6 @@ QImage painted(const Scenery &scenery)
         painter.drawPath(hills);
     }
     return photo;
-}
-
-void takeInEachLanguage(Photographer &photographer, vorlindesk::LanguageManager &language, const char *name)
-{
-    for (const auto &[value, suffix] : Languages) {
-        language.setLanguage(value);
-        photographer.take((QByteArray(name) + suffix).constData());
-    }
 }
 
 QPoint centreOf(const LayoutGrid &grid, int physicalKey)
@@ -114,7 +105,7 @@ void takeLayouts(Photographer &photographer, vorlindesk::LanguageManager &langua
     const auto *save = photographer.child<QAbstractButton>("saveLayout");
     photographer.waitUntil([save] { return save->isEnabled(); });
     photographer.drag(photographer.child<LayoutGrid>("layoutGrid"), {5, 5}, {6, 6}); // selects none
-    takeInEachLanguage(photographer, language, "layouts");
+    photographer.takeInEachLanguage(language, "layouts");
     photographer.clickNamed("saveLayout");
 }
 
@@ -127,5 +118,5 @@ void takePictureUpload(Photographer &photographer, vorlindesk::LanguageManager &
     FileDialog::setAnswer({});
     const auto *add = photographer.child<QAbstractButton>("addToGallery");
     photographer.waitUntil([add] { return add->isEnabled(); });
-    takeInEachLanguage(photographer, language, "picture_upload");
+    photographer.takeInEachLanguage(language, "picture_upload");
 }
