@@ -104,15 +104,17 @@ void SystemSettingsPage::fillSystemTypes()
 
 void SystemSettingsPage::fillHomeLayouts()
 {
-    QVector<int> ids{StandardLayoutId};
-    ids += vorlinmodel::customLayoutIds();
-    if (mHomeLayout != 0 && !ids.contains(mHomeLayout)) // one that only the panel has
-        ids.append(mHomeLayout);
+    QMap<int, QString> layouts = vorlinmodel::customLayoutNames();
+    layouts.insert(StandardLayoutId, {});
+    if (mHomeLayout != 0 && !layouts.contains(mHomeLayout)) // one that only the panel has
+        layouts.insert(mHomeLayout, {});
     PanelChoice::Entries entries;
     if (mHomeLayout == 0)
         entries.append({PanelChoice::Unknown, tr("not known yet")});
-    for (const int id : qAsConst(ids))
-        entries.append({id, shortName(layoutName(id, mLanguage).simplified())});
+    for (auto layout = layouts.cbegin(); layout != layouts.cend(); ++layout) {
+        const QString name = layoutName(layout.key(), *layout, mLanguage);
+        entries.append({layout.key(), shortName(name.simplified())});
+    }
     mpHomeLayout->show(entries, mHomeLayout == 0 ? PanelChoice::Unknown : mHomeLayout);
 }
 
