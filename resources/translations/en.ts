@@ -1294,10 +1294,6 @@
         <translation>All data has been reset. “Undo” in the editor brings back what was on this computer, until the program ends.</translation>
     </message>
     <message>
-        <source>Before, the configuration was saved in %1</source>
-        <translation>Before, the configuration was saved in %1</translation>
-    </message>
-    <message>
         <source>The configuration is being saved: %1 %</source>
         <translation>The configuration is being saved: %1 %</translation>
     </message>
@@ -1328,6 +1324,10 @@ What is on this computer is saved as a backup first. “Undo” in the editor br
         <translation>Lost on the panel and on this computer: all keys with their pictures, videos and action lists, and all panel layouts.
 
 What is on this computer is saved as a backup first. “Undo” in the editor brings it back until the program ends, the backup at any time. What only the panel holds cannot be brought back.</translation>
+    </message>
+    <message>
+        <source>Safety backup: %1</source>
+        <translation>Safety backup: %1</translation>
     </message>
 </context>
 <context>

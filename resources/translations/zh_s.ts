@@ -1268,10 +1268,6 @@
         <translation>所有数据已重置。在程序结束之前，可在编辑器中用“撤销”恢复本计算机上的内容。</translation>
     </message>
     <message>
-        <source>Before, the configuration was saved in %1</source>
-        <translation>配置事先已保存在 %1</translation>
-    </message>
-    <message>
         <source>The configuration is being saved: %1 %</source>
         <translation>正在保存配置：%1 %</translation>
     </message>
@@ -1302,6 +1298,10 @@ What is on this computer is saved as a backup first. “Undo” in the editor br
         <translation>面板和本计算机上将丢失：所有按键及其图片、视频和操作列表，以及所有面板布局。
 
 本计算机上的内容会先保存为备份。在程序结束之前，可在编辑器中用“撤销”恢复；用备份则随时可以恢复。只存在于面板上的内容无法恢复。</translation>
+    </message>
+    <message>
+        <source>Safety backup: %1</source>
+        <translation>安全备份：%1</translation>
     </message>
 </context>
 <context>

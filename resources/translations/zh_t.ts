@@ -1268,10 +1268,6 @@
         <translation>所有資料已重設。在程式結束之前，可在編輯器中用「復原」還原本電腦上的內容。</translation>
     </message>
     <message>
-        <source>Before, the configuration was saved in %1</source>
-        <translation>設定事先已儲存在 %1</translation>
-    </message>
-    <message>
         <source>The configuration is being saved: %1 %</source>
         <translation>正在儲存設定：%1 %</translation>
     </message>
@@ -1302,6 +1298,10 @@ What is on this computer is saved as a backup first. “Undo” in the editor br
         <translation>面板和本電腦上將遺失：所有按鍵及其圖片、影片和動作清單，以及所有面板版面。
 
 本電腦上的內容會先儲存為備份。在程式結束之前，可在編輯器中用「復原」還原；用備份則隨時可以還原。只存在於面板上的內容無法還原。</translation>
+    </message>
+    <message>
+        <source>Safety backup: %1</source>
+        <translation>安全備份：%1</translation>
     </message>
 </context>
 <context>

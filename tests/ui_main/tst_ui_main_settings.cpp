@@ -218,8 +218,11 @@ private slots:
     {
         SettingsFixture f;
         const Answers answers({yes});
+        f.button("formatCard")->setFocus();
         f.button("formatCard")->click();
+        QVERIFY(!f.button("formatCard")->isEnabled());
         QTRY_COMPARE(answers.texts.size(), 2);
+        QCOMPARE(f.window->focusWidget(), f.button("formatCard")); // else the page would have scrolled
         QCOMPARE(f.panel->messages(), QStringList(ClearPanel));
         QVERIFY(f.panel->state().keys.isEmpty());
         QCOMPARE(f.store.getTitleText(Key), "Music"_s);

@@ -218,7 +218,7 @@ void PanelReset::finish()
 
 QString PanelReset::savedText() const
 {
-    return tr("Before, the configuration was saved in %1").arg(QDir::toNativeSeparators(mFolder));
+    return tr("Safety backup: %1").arg(QDir::toNativeSeparators(mFolder));
 }
 
 QString PanelReset::statusText() const

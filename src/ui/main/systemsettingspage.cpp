@@ -40,7 +40,7 @@ constexpr int code(FunctionCode functionCode)
 /// on, it would scroll the page to another one.
 void SystemSettingsPage::enableUnless(QWidget *control, const QString &reason)
 {
-    if (!reason.isEmpty() && control->hasFocus()) {
+    if (!reason.isEmpty() && window()->focusWidget() == control) { // has it, or gets it when a box has gone
         mpWaitingForFocus = control;
         setFocus();
     }
@@ -48,7 +48,7 @@ void SystemSettingsPage::enableUnless(QWidget *control, const QString &reason)
     control->setToolTip(reason);
     if (reason.isEmpty() && control == mpWaitingForFocus) {
         mpWaitingForFocus = nullptr;
-        if (hasFocus())
+        if (window()->focusWidget() == this)
             control->setFocus();
     }
 }
