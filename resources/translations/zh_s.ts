@@ -298,6 +298,21 @@
     </message>
 </context>
 <context>
+    <name>CropDialog</name>
+    <message>
+        <source>%1 x %2 pixels</source>
+        <translation>%1 x %2 像素</translation>
+    </message>
+    <message>
+        <source>Reading the picture...</source>
+        <translation>正在读取图片……</translation>
+    </message>
+    <message>
+        <source>This file is a video, no picture.</source>
+        <translation>此文件是视频，不是图片。</translation>
+    </message>
+</context>
+<context>
     <name>CropPanel</name>
     <message>
         <source>Zoom:</source>
@@ -322,6 +337,13 @@
     <message>
         <source>Drag the picture or use the arrow keys to move it. The wheel, + and - zoom.</source>
         <translation>拖动图片或使用方向键可移动图片，使用滚轮、+ 和 - 可缩放。</translation>
+    </message>
+</context>
+<context>
+    <name>CustomLayouts</name>
+    <message>
+        <source>Some lines cannot be read. The file as it was is kept beside it.</source>
+        <translation>有些行无法读取。原文件已保存在旁边。</translation>
     </message>
 </context>
 <context>
@@ -1024,6 +1046,10 @@
         <source>The background is still being prepared. Save when it is shown.</source>
         <translation>背景仍在准备中，请在其显示后保存。</translation>
     </message>
+    <message>
+        <source>It is the home layout: choose another one for the panel to start with.</source>
+        <translation>它是首页布局：请为面板另选一个启动时显示的布局。</translation>
+    </message>
 </context>
 <context>
     <name>LayoutTools</name>
@@ -1512,6 +1538,25 @@ What is on this computer is saved as a backup first. “Undo” in the editor br
     <message>
         <source>The video is in the gallery.</source>
         <translation>视频已在图库中。</translation>
+    </message>
+</context>
+<context>
+    <name>PictureUploadTarget</name>
+    <message>
+        <source>No key is selected in the editor.</source>
+        <translation>编辑器中没有选中按键。</translation>
+    </message>
+    <message>
+        <source>The selected key has no function. Give it one in the editor first.</source>
+        <translation>选中的按键没有功能。请先在编辑器中为它设置功能。</translation>
+    </message>
+    <message>
+        <source>The selected key has no video function. Give it one in the editor first.</source>
+        <translation>选中的按键没有视频功能。请先在编辑器中为它设置。</translation>
+    </message>
+    <message>
+        <source>Key %1 of %2</source>
+        <translation>按键 %1，%2</translation>
     </message>
 </context>
 <context>

@@ -298,6 +298,21 @@
     </message>
 </context>
 <context>
+    <name>CropDialog</name>
+    <message>
+        <source>%1 x %2 pixels</source>
+        <translation>%1 x %2 像素</translation>
+    </message>
+    <message>
+        <source>Reading the picture...</source>
+        <translation>正在讀取圖片……</translation>
+    </message>
+    <message>
+        <source>This file is a video, no picture.</source>
+        <translation>此檔案是影片，不是圖片。</translation>
+    </message>
+</context>
+<context>
     <name>CropPanel</name>
     <message>
         <source>Zoom:</source>
@@ -322,6 +337,13 @@
     <message>
         <source>Drag the picture or use the arrow keys to move it. The wheel, + and - zoom.</source>
         <translation>拖曳圖片或使用方向鍵可移動圖片，使用滾輪、+ 和 - 可縮放。</translation>
+    </message>
+</context>
+<context>
+    <name>CustomLayouts</name>
+    <message>
+        <source>Some lines cannot be read. The file as it was is kept beside it.</source>
+        <translation>有些行無法讀取。原檔案已保存在旁邊。</translation>
     </message>
 </context>
 <context>
@@ -1024,6 +1046,10 @@
         <source>The background is still being prepared. Save when it is shown.</source>
         <translation>背景仍在準備中，請在其顯示後儲存。</translation>
     </message>
+    <message>
+        <source>It is the home layout: choose another one for the panel to start with.</source>
+        <translation>它是首頁版面：請為面板另選一個啟動時顯示的版面。</translation>
+    </message>
 </context>
 <context>
     <name>LayoutTools</name>
@@ -1512,6 +1538,25 @@ What is on this computer is saved as a backup first. “Undo” in the editor br
     <message>
         <source>The video is in the gallery.</source>
         <translation>影片已在圖庫中。</translation>
+    </message>
+</context>
+<context>
+    <name>PictureUploadTarget</name>
+    <message>
+        <source>No key is selected in the editor.</source>
+        <translation>編輯器中沒有選取按鍵。</translation>
+    </message>
+    <message>
+        <source>The selected key has no function. Give it one in the editor first.</source>
+        <translation>選取的按鍵沒有功能。請先在編輯器中為它設定功能。</translation>
+    </message>
+    <message>
+        <source>The selected key has no video function. Give it one in the editor first.</source>
+        <translation>選取的按鍵沒有影片功能。請先在編輯器中為它設定。</translation>
+    </message>
+    <message>
+        <source>Key %1 of %2</source>
+        <translation>按鍵 %1，%2</translation>
     </message>
 </context>
 <context>
