@@ -3,6 +3,7 @@
 #include "style.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QLabel>
 
 namespace {

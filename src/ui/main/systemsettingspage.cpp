@@ -12,6 +12,7 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QRadioButton>
+#include <iterator>
 
 namespace {
 
@@ -134,8 +135,8 @@ void SystemSettingsPage::showActions()
 {
     const QString noPanel = mConnected ? QString() : tr("The panel is not connected.");
     const QString clearing = mReset.isBusy() ? tr("The panel is being cleared.") : QString();
-    for (QWidget *control : {mpSystemType, mpHomeLayout})
-        enableUnless(control, noPanel);
+    enableUnless(mpSystemType, noPanel);
+    enableUnless(mpHomeLayout, noPanel);
     for (const char *name : {"formatCard", "resetAll"})
         enableUnless(action(name), whyNotNow());
     enableUnless(action("fontLibrary"), noPanel.isEmpty() ? clearing : noPanel);
@@ -147,7 +148,7 @@ void SystemSettingsPage::showActions()
 void SystemSettingsPage::retranslate()
 {
     mpCaption->setText(mLanguage.Text(CaptionText));
-    for (int i = 0; i < mLanguages.size(); ++i) {
+    for (int i = 0; i < int(std::size(LanguageTexts)); ++i) {
         mLanguages.at(i)->setText(mLanguage.Text(LanguageTexts[i]));
         mLanguages.at(i)->setChecked(mLanguage.language() == i);
     }

@@ -12,6 +12,7 @@
 #include "upgradeprogress.h"
 #include "upgradetext.h"
 
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
