@@ -1,6 +1,7 @@
 #include "messagedispatcher.h"
 
 #include "attributerules.h"
+#include "configfile.h"
 #include "configreply.h"
 #include "layoutrules.h"
 #include "messagerules.h"
@@ -202,6 +203,13 @@ void MessageDispatcher::takeConfigFile(const QByteArray &body)
 {
     mState.configFile = body;
     mJournal.event(QStringLiteral("configuration file of %1 bytes").arg(body.size()));
+    if (!ConfigFile::isOne(body)) // another panel's: it is kept, and of no use
+        return;
+    const auto keys = ConfigFile::read(body);
+    if (!keys)
+        return mJournal.violation(QStringLiteral("a configuration file that is damaged"));
+    ConfigFile::takeOver(*keys, mState);
+    mJournal.event(QStringLiteral("configuration of %1 keys taken over").arg(keys->keys.size()));
 }
 
 bool MessageDispatcher::bodyHas(const QByteArray &body, int size)
