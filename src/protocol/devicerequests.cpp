@@ -125,8 +125,10 @@ void processConfigFile(DeviceContext &context, const Request &)
     const QByteArray script = currentScript();
     if (script.isEmpty()) {
         Log(LogLevel::Error, Text::NoConfigFile);
+        context.unreadable = true;
     } else {
-        context.protocol.buildPlain(FunctionCode::MD_FUNCTION_CODE_CONFIGFILE, script);
+        const int size = context.protocol.buildPlain(FunctionCode::MD_FUNCTION_CODE_CONFIGFILE, script);
+        context.unreadable = size < 0; // too long for a message
         context.protocol.sendInBlocks(ConfigFileTransfer);
     }
     emit context.events.sigSendScriptFinished(); // also after a failure: a dialog waits for it
