@@ -173,14 +173,18 @@ bool sameState(const BackupContent &one, const BackupContent &other)
     return one.scriptBytes == other.scriptBytes && rest(one.files) == rest(other.files);
 }
 
-bool isBackedUp(const QVector<BackupInfo> &backups, const BackupContent &present)
+// @return nothing when @p watch gave it up.
+std::optional<bool> isBackedUp(const QVector<BackupInfo> &backups, const BackupContent &present,
+                               const BackupWatch &watch)
 {
     const auto newest =
         std::find_if(backups.begin(), backups.end(), [](const BackupInfo &info) { return info.isComplete; });
     if (newest == backups.end())
         return present.script.pages.isEmpty(); // a new program has nothing to lose
-    const auto content = loadBackup(newest->folder);
-    return content && content->damaged.isEmpty() && sameState(*content, present);
+    const auto content = loadBackup(newest->folder, watch);
+    if (!content)
+        return std::nullopt;
+    return content->damaged.isEmpty() && sameState(*content, present);
 }
 
 void removeUnfinished(const QString &directory)
@@ -243,8 +247,10 @@ BackupResult createAutomatic(const QString &directory, const IFunctionManager &s
     }
     BackupResult result;
     const auto present = presentContent(store, watch.part(0, GatherPart));
-    result.isCancelled = !present;
-    if (!present || isBackedUp(list(directory), *present))
+    const auto isThere =
+        present ? isBackedUp(list(directory), *present, watch.part(GatherPart, GatherPart)) : std::nullopt;
+    result.isCancelled = !isThere;
+    if (!isThere || *isThere)
         return result;
     return create(directory, *present, BackupReason::Automatic, {}, watch.part(GatherPart, 100));
 }
