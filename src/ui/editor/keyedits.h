@@ -3,6 +3,7 @@
 
 #include "base/handover.h"
 #include "base/request.h"
+#include "configurationstate.h"
 #include "keystate.h"
 #include "model/keyid.h"
 #include "pendingedits.h"
@@ -96,7 +97,19 @@ public:
     /// False when the records of the last run could not be read: files may belong to keys that this run does
     /// not know.
     bool isLoaded() const { return mIsLoaded; }
-    bool isReading() const { return mReading; } ///< between beginRead() and endRead()
+    /// Around work of another thread with the files and the store, which edits do not change meanwhile.
+    /// beginWork() only holds back the saving; beginReplace() also makes isReading() true, as a read does.
+    /// The result is ready when no writing is under way any more. Not during a read; each until its end.
+    std::shared_future<void> beginWork() { return mFiles.hold(); }
+    void endWork() { mFiles.release(); }
+    std::shared_future<void> beginReplace();
+    /// @p changed: what differs from what the panel shows; empty when nothing was replaced. It is sent with
+    /// @p send, else it is pending. The history is left to the caller.
+    void endReplace(const QVector<KeyDifference> &changed, bool send);
+    void panelTook(const QVector<vorlinmodel::key_id_t> &keys); ///< whole, not as edits
+
+    /// The store is not the person's: between beginRead() and endRead(), or while it is replaced.
+    bool isReading() const { return mReading || mReplacing; }
 
 signals:
     /// Keys that look or act differently now, whatever changed them.
@@ -153,6 +166,7 @@ private:
     QTimer mRestTimer;
     States mBeforeRead;
     bool mReading = false;
+    bool mReplacing = false;
     bool mSendAfterRead = false;
     vorlindesk::HandOver mHandOver;
 };

@@ -26,12 +26,13 @@ bool holdsForeignText(const PendingEdits::Attributes &attributes, int fid)
 void KeyEdits::sendPending()
 {
     flush();
-    mSendAfterRead = mReading;
-    if (mReading)
+    mSendAfterRead = isReading();
+    if (isReading())
         return;
+    const States states = capture(mPending.keys());
     for (const key_id_t &key : mPending.keys()) {
         const PendingEdits::Attributes pending = mPending.attributes(key);
-        const KeyState state = captureKeyState(mStore, key);
+        const KeyState state = states.value(key);
         // After a clear, or under another function, the panel has none of the key's values.
         const bool anew = !state.record || pending.count(AttributeId::ClearKey) != 0 ||
                           pending.count(AttributeId::FunctionId) != 0 ||

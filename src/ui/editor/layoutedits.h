@@ -60,6 +60,9 @@ public:
     /// Sends the layout as home layout, then asks for what the panel holds.
     void setHomeLayout(int layoutId);
 
+    /// The file was replaced as a whole: the panel is told of the layouts @p changed.
+    void replaced(const QVector<int> &changed);
+
     // What the panel sent:
 
     /// The first custom layout in a run: those of the panel take the place of ours. The file is copied aside

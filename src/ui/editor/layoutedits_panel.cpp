@@ -102,6 +102,14 @@ void LayoutEdits::sendPending()
         post(layoutId);
 }
 
+void LayoutEdits::replaced(const QVector<int> &changed)
+{
+    linkLost(); // what the panel has sent so far is no reason to remove one of the new layouts
+    for (const int layoutId : changed)
+        post(layoutId);
+    emit sigLayoutsChanged();
+}
+
 void LayoutEdits::setHomeLayout(int layoutId)
 {
     mEdits.context().sendRequest(RequestKind::MD_FUNCTION_CODE_HOME_LAYOUT, layoutId);

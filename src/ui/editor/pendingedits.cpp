@@ -34,6 +34,11 @@ std::optional<key_id_t> keyOf(const QString &name)
     return isKey ? std::make_optional(key) : std::nullopt;
 }
 
+QString nameOf(const key_id_t &key)
+{
+    return QStringLiteral("%1_%2_%3").arg(key.lid).arg(key.pageid).arg(key.kid);
+}
+
 /// Both carry the picture.
 bool arePictures(AttributeId one, AttributeId other)
 {
@@ -111,6 +116,29 @@ void PendingEdits::withdraw(const key_id_t &key, AttributeId attribute)
         setMark(key, entry, Mark::None, Cause::None);
     if (entry.unsent.empty() && entry.underWay.empty())
         mEntries.erase(found);
+}
+
+void PendingEdits::note(const key_id_t &key, const QVector<AttributeId> &attributes)
+{
+    if (attributes.isEmpty())
+        return;
+    Entry &entry = mEntries[key];
+    entry.unsent.insert(attributes.cbegin(), attributes.cend());
+    setMark(key, entry, Mark::Pending, Cause::NoPanel);
+}
+
+void PendingEdits::taken(const key_id_t &key)
+{
+    const auto found = mEntries.find(key);
+    if (found == mEntries.end())
+        return;
+    Entry &entry = found->second;
+    for (auto id = entry.unsent.begin(); id != entry.unsent.end();)
+        id = entry.underWay.count(*id) == 0 ? entry.unsent.erase(id) : std::next(id);
+    if (!entry.unsent.empty() || !entry.underWay.empty())
+        return;
+    setMark(key, entry, Mark::None, Cause::None);
+    mEntries.erase(found);
 }
 
 bool PendingEdits::isUnderWay(const key_id_t &key, AttributeId attribute) const
@@ -244,11 +272,22 @@ bool PendingEdits::save()
         QStringList ids;
         for (const AttributeId id : entry.unsent)
             ids.append(QString::number(static_cast<int>(id)));
-        ini->setValue(QStringLiteral("%1_%2_%3").arg(key.lid).arg(key.pageid).arg(key.kid),
-                      ids.join(QLatin1Char(' ')));
+        ini->setValue(nameOf(key), ids.join(QLatin1Char(' ')));
     }
     ini->endGroup();
     ini->sync();
     mOnDisk = !mEntries.empty();
+    return ini->status() != QSettings::AccessError;
+}
+
+bool PendingEdits::saveWhole(const QVector<key_id_t> &keys)
+{
+    IniFile ini(fileName());
+    ini->clear();
+    ini->beginGroup(Group);
+    for (const key_id_t &key : keys) // clearing stands for the whole key: it is then made anew
+        ini->setValue(nameOf(key), static_cast<int>(AttributeId::ClearKey));
+    ini->endGroup();
+    ini->sync();
     return ini->status() != QSettings::AccessError;
 }

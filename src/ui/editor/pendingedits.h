@@ -39,6 +39,12 @@ public:
     /// The panel need not have the attribute any more: the store is back at what the panel has.
     void withdraw(const vorlinmodel::key_id_t &key, vorlinmodel::AttributeId attribute);
 
+    /// The panel lacks these values, for which nothing is posted yet.
+    void note(const vorlinmodel::key_id_t &key, const QVector<vorlinmodel::AttributeId> &attributes);
+
+    /// The panel got the whole key by another road. What is under way was posted later, and stays.
+    void taken(const vorlinmodel::key_id_t &key);
+
     /// Requests of the attribute are in the queue, or one is carried out.
     bool isUnderWay(const vorlinmodel::key_id_t &key, vorlinmodel::AttributeId attribute) const;
 
@@ -52,7 +58,10 @@ public:
     /// Adds what the file holds. Entries that name no key or attribute are left out. @return false when the
     /// file cannot be read.
     bool load();
-    bool save();                              ///< @return false when it cannot be written
+    bool save(); ///< @return false when it cannot be written
+    /// Writes the file as if all of @p keys were pending, whatever is. For a moment at which a kill would
+    /// leave the keys changed and nothing noted; save() puts it right. Any thread, while nobody calls save().
+    static bool saveWhole(const QVector<vorlinmodel::key_id_t> &keys);
     bool isOnDisk() const { return mOnDisk; } ///< the file holds something, as far as known
 
 signals:

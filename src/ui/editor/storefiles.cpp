@@ -67,7 +67,7 @@ bool StoreFiles::load()
 void StoreFiles::touch()
 {
     mDirty = true;
-    if (!mPaused)
+    if (!mPaused && mHolds == 0)
         mTimer.start();
 }
 
@@ -80,7 +80,25 @@ void StoreFiles::pause()
 void StoreFiles::resume()
 {
     mPaused = false;
-    if (mDirty)
+    if (mDirty && mHolds == 0)
+        mTimer.start();
+}
+
+std::shared_future<void> StoreFiles::hold()
+{
+    ++mHolds;
+    mTimer.stop();
+    if (mWritten.valid())
+        return mWritten;
+    std::promise<void> nothingUnderWay;
+    nothingUnderWay.set_value();
+    return nothingUnderWay.get_future().share();
+}
+
+void StoreFiles::release()
+{
+    --mHolds;
+    if (mDirty && !mPaused && mHolds == 0)
         mTimer.start();
 }
 
@@ -103,9 +121,12 @@ void StoreFiles::startSaving()
     join(); // ended long ago, unless the disk is very slow
     mDirty = false;
     const bool pending = mPending.save();
-    mThread = std::thread([this, pending] {
+    std::promise<void> written;
+    mWritten = written.get_future().share();
+    mThread = std::thread([this, pending, written = std::move(written)]() mutable {
         if (!mStore.saveAllKeyData() || !pending)
             mHandOver.post([this] { emit sigSaveFailed(); });
+        written.set_value();
     });
 }
 

@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QTimer>
+#include <future>
 #include <thread>
 
 namespace vorlinmodel {
@@ -29,7 +30,11 @@ public:
     /// Waits for a writing that is under way, and holds back what is due until resume(): the panel is about
     /// to be read, which empties the folder with the pictures, and a writing meanwhile would remove new ones.
     void pause();
-    void resume();  ///< what was held back is saved after the rest
+    void resume(); ///< what was held back is saved after the rest
+    /// Holds back what is due until release(), beside pause() and without its wait: a writing that is under
+    /// way has ended when the result is ready. For a thread that reads or replaces the files. Calls count.
+    std::shared_future<void> hold();
+    void release();
     bool saveNow(); ///< and waits for it. @return false when a file could not be written
 
     /// Writes a picture under a name that its content gives it. @return the path; empty when it could not be
@@ -49,6 +54,8 @@ private:
     QTimer mTimer;
     bool mDirty = false;
     bool mPaused = false;
+    int mHolds = 0; ///< hold() without its release()
     std::thread mThread;
+    std::shared_future<void> mWritten; ///< ready when the last writing has ended; invalid before the first
     vorlindesk::HandOver mHandOver;
 };

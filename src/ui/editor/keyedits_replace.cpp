@@ -1,0 +1,48 @@
+// When the whole configuration is replaced, by a backup that comes back.
+#include "keyedits.h"
+#include "model/ifunctionmanager.h"
+
+using vorlinmodel::AttributeId;
+using vorlinmodel::key_id_t;
+
+std::shared_future<void> KeyEdits::beginReplace()
+{
+    flush();
+    mReplacing = true;
+    return mFiles.hold();
+}
+
+void KeyEdits::endReplace(const QVector<KeyDifference> &changed, bool send)
+{
+    if (!std::exchange(mReplacing, false))
+        return;
+    QVector<key_id_t> keys;
+    for (const KeyDifference &difference : changed) {
+        keys.append(difference.key);
+        mReplacedVideos.remove(difference.key); // that video is not what a cancelled transfer goes back to
+        if (send) {
+            mPending.forget(difference.key);
+            for (const AttributeId attribute : difference.attributes)
+                this->send(difference.key, difference.fid, attribute);
+        } else {
+            mPending.note(difference.key, difference.attributes);
+        }
+    }
+    // At once, not after the rest: until then a kill would leave the keys of before on the panel, whose next
+    // read would bring them back.
+    if (!mPending.save())
+        emit sigProblem(tr("The keys could not be saved. Is the disk full?"));
+    mFiles.touch();
+    mFiles.release();
+    if (std::exchange(mSendAfterRead, false))
+        sendPending();
+    emit sigKeysChanged(keys);
+    emit sigReadEnded();
+}
+
+void KeyEdits::panelTook(const QVector<key_id_t> &keys)
+{
+    for (const key_id_t &key : keys)
+        mPending.taken(key);
+    mFiles.touch();
+}
