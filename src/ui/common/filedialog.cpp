@@ -28,6 +28,13 @@ QStringList FileDialog::openFiles(QWidget *parent, const QString &caption, const
     return QFileDialog::getOpenFileNames(parent, caption, folder, filter);
 }
 
+QString FileDialog::openFolder(QWidget *parent, const QString &caption, const QString &folder)
+{
+    if (scriptedAnswer())
+        return scriptedAnswer()(caption).value(0);
+    return QFileDialog::getExistingDirectory(parent, caption, folder);
+}
+
 void FileDialog::setAnswer(Answer answer)
 {
     scriptedAnswer() = std::move(answer);

@@ -13,7 +13,10 @@ namespace FileDialog {
 QString openFile(QWidget *parent, const QString &caption, const QString &folder, const QString &filter);
 QStringList openFiles(QWidget *parent, const QString &caption, const QString &folder, const QString &filter);
 
-/// For tests: while one is set, no dialog is shown; it gets the caption and gives the files.
+/// The same for a folder that there is.
+QString openFolder(QWidget *parent, const QString &caption, const QString &folder);
+
+/// For tests: while one is set, no dialog is shown; it gets the caption and gives the files, or the folder.
 using Answer = std::function<QStringList(const QString &caption)>;
 void setAnswer(Answer answer);
 

@@ -1,5 +1,6 @@
 #include "mainframe.h"
 
+#include "backuppanel.h"
 #include "base/iframeworkcontext.h"
 #include "base/language.h"
 #include "base/log.h"
@@ -32,6 +33,7 @@ MainFrame::MainFrame(EditorContext &context, vorlindesk::IDesktop &desktop, QWid
     : QFrame(parent)
     , mContext(context)
     , mDesktop(desktop)
+    , mpBackups(new Backups(context, this))
     , mpLayout(new QVBoxLayout(this))
     , mpHomeButton(new QPushButton(this))
 {
@@ -61,8 +63,19 @@ bool MainFrame::setup()
             &FunctionConfigWidget::rebuildLayouts);
     connect(&mContext.layouts, &LayoutEdits::sigLayoutsChanged, this, &MainFrame::showHomeLayout);
     connect(&mContext.layouts, &LayoutEdits::sigProblem, &mContext.edits, &KeyEdits::sigProblem);
+    connectBackups();
     retranslate();
     return true;
+}
+
+void MainFrame::connectBackups()
+{
+    connect(mpBackups, &Backups::sigReplacing, this, &MainFrame::allowEdits);
+    connect(mpBackups, &Backups::sigReplaced, this, [this] {
+        mpFunctionConfig->refreshKeys();
+        showHomeLayout();
+        showCurrentPage();
+    });
 }
 
 void MainFrame::select(int index)
@@ -122,7 +135,7 @@ bool MainFrame::setupLayoutPage()
         return false;
     connect(mpLayoutPage, &LayoutPage::sigShowInEditor, this, &MainFrame::showInEditor);
     connect(mpLayoutPage, &LayoutPage::sigHomeLayoutChosen, this, &MainFrame::chooseHomeLayout);
-    mpLayoutPage->setEnabled(!mReading);
+    allowEdits();
     showHomeLayout();
     return true;
 }
@@ -142,7 +155,9 @@ bool MainFrame::setupSystemSettingsPage()
     if (!take(mpSystemSettings, LogText::SetupSystemSettingsError))
         return false;
     connect(mpSystemSettings, &SystemSettingsPage::sigHomeLayoutChosen, this, &MainFrame::chooseHomeLayout);
-    mpSystemSettings->setReading(mReading);
+    mpSystemSettings->addSection(
+        new BackupPanel(*mpBackups, *mContext.framework.languageManager(), mDesktop, mpSystemSettings));
+    allowEdits();
     showHomeLayout();
     return true;
 }
@@ -220,13 +235,23 @@ void MainFrame::showInEditor(int layoutId)
 
 void MainFrame::setReading(bool reading)
 {
-    mpFunctionConfig->setEnabled(!reading);
-    mpHomeButton->setEnabled(!reading);
     mReading = reading;
+    mpBackups->setReading(reading);
+    allowEdits();
+}
+
+void MainFrame::allowEdits()
+{
+    const bool isReplacing = mpBackups->activity() == Backups::Activity::Importing;
+    const bool mayEdit = !mReading && !isReplacing;
+    mpFunctionConfig->setEnabled(mayEdit);
+    mpHomeButton->setEnabled(mayEdit);
     if (mpLayoutPage)
-        mpLayoutPage->setEnabled(!reading);
+        mpLayoutPage->setEnabled(mayEdit);
+    if (mpPictureUpload)
+        mpPictureUpload->setEnabled(!isReplacing); // a read it waits for by itself
     if (mpSystemSettings)
-        mpSystemSettings->setReading(reading);
+        mpSystemSettings->setReading(!mayEdit);
 }
 
 void MainFrame::showDeviceValue(int code, const QString &value)
@@ -242,6 +267,7 @@ void MainFrame::setConnected(bool connected)
 {
     const bool came = connected && !mConnected;
     mConnected = connected;
+    mpBackups->setConnected(connected);
     showHomeLayout();
     if (came && mCurrentPage == SystemSettings)
         askForPanelValues();

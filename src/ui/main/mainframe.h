@@ -4,6 +4,7 @@
 #include <QFrame>
 #include <QMap>
 
+class Backups;
 class FunctionConfigWidget;
 class LayoutPage;
 class PictureUploadPage;
@@ -34,7 +35,9 @@ public:
     int currentPage() const { return mCurrentPage; }
 
     FunctionConfigWidget &editor() { return *mpFunctionConfig; } ///< after setup()
-    /// While the panel is read, which overwrites the keys, they cannot be edited.
+    Backups &backups() { return *mpBackups; }
+    /// While the panel is read, which overwrites the keys, they cannot be edited; nor while a backup takes
+    /// their place.
     void setReading(bool reading);
 
     /// Asks about what is not saved on the page in view. @return false to stay.
@@ -62,6 +65,8 @@ public slots:
     void slotShowHomeLayout();
 
 private:
+    void connectBackups();
+    void allowEdits();
     bool build(int index);
     template <class PageWidget>
     bool take(PageWidget *&page, const char *failure);
@@ -82,6 +87,7 @@ private:
     bool mConnected = false;
     bool mReading = false;
     QMap<int, QString> mDeviceValues; ///< by function code
+    Backups *mpBackups;
     QVBoxLayout *mpLayout;
     QPushButton *mpHomeButton;
     FunctionConfigWidget *mpFunctionConfig = nullptr;

@@ -1,5 +1,6 @@
 #include "widget.h"
 
+#include "backups.h"
 #include "base/iframeworkcontext.h"
 #include "base/language.h"
 #include "base/log.h"
@@ -50,6 +51,10 @@ void Widget::slotTimerSyncOut()
 void Widget::readConfiguration()
 {
     Log(LogLevel::Info, LogText::ReadRequested);
+    if (mpMainFrame->backups().isHolding()) { // the read would change what is backed up or replaced
+        mReadWhenReleased = true;
+        return;
+    }
     mReadEndTimer.stop();
     mReadIncomplete = false;
     beginEditorRead();

@@ -60,6 +60,7 @@ public slots:
     void slotUpdateWaitingDialogTime(int nTime); ///< ms
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
@@ -88,6 +89,8 @@ private:
     void onPanelCame();
     void onVersion(int code, const QString &text);
     void onPollTimeout();
+    bool mustWait(int functionCode);
+    void onFilesReleased();
     void watchRead();
     void onReadEndTimeout();
     void finishRead();
@@ -119,7 +122,8 @@ private:
     bool mWasConnected = false; ///< before the panel was last seen to go
     bool mSoftwareVersionKnown = false;
     bool mReadIncomplete = false;
-    bool mReadWhole = false; ///< the panel sent all it has; not only what it chose to send
+    bool mReadWhole = false;        ///< the panel sent all it has; not only what it chose to send
+    bool mReadWhenReleased = false; ///< the files are held by the work with a backup
     bool mAllSaved = false;
     ReadProgress mProgress;
     bool mEditorReads = false;                    ///< between the editor's beginRead() and endRead()

@@ -1,4 +1,5 @@
 // The part of the main window that takes what the panel sends.
+#include "backups.h"
 #include "base/iframeworkcontext.h"
 #include "base/log.h"
 #include "logtext.h"
@@ -46,6 +47,8 @@ void Widget::slotDealRecvData(const quint8 *recvData, int nBufferLen)
     // Settled here, in the order of arrival, since a worker may come to a message long after the next read
     // was asked for, or the panel was unplugged.
     const int functionCode = nBufferLen > 0 ? recvData[0] : 0;
+    if (mustWait(functionCode))
+        return;
     if (functionCode == code(FunctionCode::MD_FUNCTION_CODE_READ_CONFIGFILE)) {
         message.firstPage = mProgress.takeFirstPage();
         beginEditorRead(); // a panel may also send a page by itself
@@ -61,6 +64,24 @@ void Widget::slotDealRecvData(const quint8 *recvData, int nBufferLen)
         mpReceivedData->handle(message);
         mHandOver.post([this] { onReadMessageHandled(); });
     });
+}
+
+/// Part of the configuration that a panel sends by itself while a backup is made or takes its place: it is
+/// dropped, and all of it read afterwards.
+bool Widget::mustWait(int functionCode)
+{
+    const bool isConfiguration = functionCode == code(FunctionCode::MD_FUNCTION_CODE_READ_CONFIGFILE) ||
+                                 functionCode == code(FunctionCode::MD_FUNCTION_CODE_CUSTOMLAYOUT_SET);
+    if (!isConfiguration || !mpMainFrame->backups().isHolding())
+        return false;
+    mReadWhenReleased = true;
+    return true;
+}
+
+void Widget::onFilesReleased()
+{
+    if (std::exchange(mReadWhenReleased, false))
+        readConfiguration();
 }
 
 /// Before the store is changed: the editor keeps what the panel has not taken.

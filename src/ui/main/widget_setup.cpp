@@ -1,4 +1,5 @@
 // The part of the main window that puts it together.
+#include "backups.h"
 #include "base/iframeworkcontext.h"
 #include "base/language.h"
 #include "base/log.h"
@@ -163,6 +164,7 @@ void Widget::connectFrames()
     connect(mpStatusFrame, &StatusFrame::sigReadDeviceConfig, this, &Widget::readConfiguration);
     connect(mpFuncTabFrame, &FuncTabFrame::sigSelected, mpMainFrame, &MainFrame::select);
     connect(mpMainFrame, &MainFrame::sigPageSelected, mpFuncTabFrame, &FuncTabFrame::showSelected);
+    connect(&mpMainFrame->backups(), &Backups::sigReleased, this, &Widget::onFilesReleased);
     connect(mpMainFrame, &MainFrame::sigGalleryChanged, mpIconListFrame, &GalleryFrame::refresh);
     connect(mpIconListFrame, &GalleryFrame::sigItemChosen, this,
             [this](const QString &picture, const QString &video) {
@@ -231,6 +233,8 @@ void Widget::saveAll()
     if (!mReady || std::exchange(mAllSaved, true))
         return;
     endReadNow();
+    mReadWhenReleased = false;
+    mpMainFrame->backups().finish(); // first: a backup that has taken the place of the keys is what is saved
     const FunctionConfigWidget &editor = mpMainFrame->editor();
     saveWindowState({saveGeometry(), editor.curLayoutId(), editor.curPageId()});
     if (!mpEditor->edits.saveNow())
@@ -254,6 +258,13 @@ void Widget::retranslate()
     mpFuncTabFrame->retranslate();
     mpIconListFrame->retranslate();
     mpMainFrame->retranslate();
+}
+
+void Widget::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (mReady)
+        mpMainFrame->backups().startAutomatic();
 }
 
 void Widget::resizeEvent(QResizeEvent *event)

@@ -1,0 +1,98 @@
+/// What a person can do with the backups of the profile directory.
+#pragma once
+
+#include "backupwork.h"
+#include "configurationimport.h"
+#include "model/profiles.h"
+
+#include <QObject>
+#include <QTimer>
+#include <QVector>
+#include <memory>
+
+struct EditorContext;
+
+/// User-interface thread only; every file is read and written by a thread of its own. One thing at a time:
+/// while isBusy() nothing else can be begun.
+class Backups : public QObject
+{
+    Q_OBJECT
+public:
+    enum class Activity { None, Creating, Removing, Opening, Importing, Sending };
+
+    /// A backup beside the present state.
+    struct Opened
+    {
+        ConfigurationImport::Content content;
+        vorlinmodel::RestorePreview preview;
+        QString error; ///< the present state cannot be backed up, so nothing may replace it
+    };
+
+    explicit Backups(EditorContext &context, QObject *parent = nullptr);
+    ~Backups() override;
+
+    QString directory() const { return mDirectory; }    ///< in use; the one chosen may be gone
+    QString chosenDirectory() const { return mChosen; } ///< empty: that of the settings
+    void setDirectory(const QString &directory);
+    void list(); ///< anew; sigListed follows
+    const QVector<vorlinmodel::BackupInfo> &backups() const { return mBackups; }
+
+    void create(const QString &name);
+    void remove(const QString &folder);
+    void open(const QString &folder); ///< to be looked at; sigOpened follows
+    void import(const ConfigurationImport::Content &content, bool takesTheRest, bool toPanel);
+    void cancel(); ///< what is under way, as far as possible
+
+    Activity activity() const;
+    bool isBusy() const { return activity() != Activity::None; }
+    int percent() const { return mPercent; } ///< of the activity
+    /// Why nothing can be begun now, for the person; empty when it can.
+    QString obstacle() const;
+    bool isConnected() const { return mConnected; }
+
+    void setConnected(bool connected);
+    void setReading(bool reading);
+    /// The files or the store must not be changed by others: the panel is not to be read.
+    bool isHolding() const { return mHolds > 0 || mImport.isReplacing(); }
+
+    /// Once, when the window is shown: as soon as nothing else is going on, a backup if something has changed
+    /// since the last.
+    void startAutomatic();
+    void finish(); ///< the end of the program: gives up what is under way, and waits for it
+
+    static constexpr int IdleCheck = 5000; ///< ms between two looks whether nothing else is going on
+
+signals:
+    void sigActivity(); ///< activity, percent or obstacle has changed
+    void sigListed();
+    void sigCreated(const vorlinmodel::Profiles::BackupResult &result);
+    void sigRemoved(bool done);
+    void sigOpened(const Backups::Opened &opened);
+    void sigReplacing(bool on);
+    void sigReplaced();
+    void sigImported(const QString &name, const QStringList &leftOut);
+    void sigImportFailed(const QString &reason);
+    void sigSent(const QString &problem);
+    void sigReleased(); ///< isHolding() has ended
+
+private:
+    void begin(Activity activity, BackupWork::Task task);
+    BackupWork::Task holding(BackupWork::Task task);
+    void onIdle();
+    void tryAutomatic();
+
+    EditorContext &mContext;
+    QString mChosen;
+    QString mDirectory;
+    QVector<vorlinmodel::BackupInfo> mBackups;
+    Activity mActivity = Activity::None;
+    int mPercent = 0;
+    bool mConnected = false;
+    bool mReading = false;
+    int mHolds = 0; ///< tasks that hold back the saving
+    bool mHasStarted = false;
+    bool mIsAutomatic = false; ///< such a backup is under way
+    QTimer mIdleTimer{this};
+    BackupWork mWork;
+    ConfigurationImport mImport;
+};

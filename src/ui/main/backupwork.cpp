@@ -1,0 +1,86 @@
+#include "backupwork.h"
+
+struct BackupWork::Job
+{
+    Task task;
+    std::atomic<bool> isCancelled = false;
+    std::mutex mutex; // guards the next one
+    Delivery delivery;
+};
+
+BackupWork::BackupWork(QObject *parent)
+    : QObject(parent)
+{}
+
+BackupWork::~BackupWork()
+{
+    cancel();
+    if (mThread.joinable())
+        mThread.join();
+}
+
+void BackupWork::start(Task task)
+{
+    mWaiting.push_back(std::move(task));
+    if (!mpJob)
+        startNext();
+}
+
+void BackupWork::startNext()
+{
+    const auto job = std::make_shared<Job>();
+    job->task = std::move(mWaiting.front());
+    mWaiting.pop_front();
+    mpJob = job;
+    emit sigProgress(0);
+    mThread = std::thread([this, job] {
+        const auto tell = [this, job, last = 0](int percent) mutable {
+            if (percent != std::exchange(last, percent))
+                mHandOver.post([this, job, percent] {
+                    if (job == mpJob)
+                        emit sigProgress(percent);
+                });
+        };
+        const Delivery delivery = job->task(vorlinmodel::BackupWatch(tell, &job->isCancelled));
+        {
+            const std::lock_guard lock(job->mutex);
+            job->delivery = delivery;
+        }
+        mHandOver.post([this, job] { deliver(job); });
+    });
+}
+
+void BackupWork::cancel()
+{
+    if (mpJob)
+        mpJob->isCancelled = true;
+}
+
+void BackupWork::finish()
+{
+    while (mpJob) { // its delivery may start another
+        mWaiting.clear();
+        cancel();
+        deliver(mpJob);
+    }
+}
+
+void BackupWork::deliver(std::shared_ptr<Job> job)
+{
+    if (job != mpJob) // delivered by finish()
+        return;
+    mThread.join();
+    mpJob.reset();
+    Delivery delivery;
+    {
+        const std::lock_guard lock(job->mutex);
+        delivery = std::move(job->delivery);
+    }
+    delivery();
+    if (mpJob) // started by it
+        return;
+    if (!mWaiting.empty())
+        startNext();
+    else
+        emit sigIdle();
+}

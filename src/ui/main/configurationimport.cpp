@@ -1,0 +1,202 @@
+#include "configurationimport.h"
+
+#include "backupwork.h"
+#include "base/iframeworkcontext.h"
+#include "base/language.h"
+#include "base/systemsettings.h"
+#include "model/ifunctionmanager.h"
+#include "protocol/iprotocolthread.h"
+#include "restorecommand.h"
+#include "scripttransfer.h"
+#include "ui_editor/editorcontext.h"
+
+#include <QSet>
+#include <future>
+
+using vorlinmodel::BackupContent;
+using vorlinmodel::BackupWatch;
+using vorlinmodel::IFunctionManager;
+using vorlinmodel::key_id_t;
+using vorlinmodel::RequestOutcome;
+using vorlinmodel::RestoreOptions;
+using vorlinmodel::RestoreResult;
+
+namespace {
+
+constexpr int LoadPart = 20; // percent
+
+/// All keys of the pages on which @p state has keys: a script replaces whole pages.
+QVector<key_id_t> keysOfPages(const ConfigurationState &state)
+{
+    QVector<key_id_t> keys;
+    key_id_t page{-1, -1, 0};
+    for (const key_id_t &key : state.keys.keys()) {
+        if (key.lid == page.lid && key.pageid == page.pageid)
+            continue;
+        page = {key.lid, key.pageid, 0};
+        for (int kid = vorlinmodel::FirstKeyId; kid <= vorlinmodel::LastKeyId; ++kid)
+            keys.append({key.lid, key.pageid, kid});
+    }
+    return keys;
+}
+
+QVector<key_id_t> keysOf(const vorlinmodel::Script &script)
+{
+    QVector<key_id_t> keys;
+    for (const PagePayload &page : script.pages) {
+        for (const KeyRecord &record : page.records)
+            keys.append({record.layoutId, record.pageId, record.keyId});
+    }
+    return keys;
+}
+
+} // namespace
+
+struct ConfigurationImport::Outcome
+{
+    RestoreResult result;
+    QVector<KeyDifference> keys;
+    QVector<int> layouts;
+    QVector<key_id_t> covered; ///< by the script of the new configuration
+};
+
+ConfigurationImport::ConfigurationImport(EditorContext &context, BackupWork &work, QObject *parent)
+    : QObject(parent)
+    , mContext(context)
+    , mWork(work)
+    , mpTransfer(new ScriptTransfer(context.framework, this))
+{
+    connect(mpTransfer, &ScriptTransfer::sigProgress, this, &ConfigurationImport::sigSendProgress);
+    connect(mpTransfer, &ScriptTransfer::sigDone, this, &ConfigurationImport::onScriptSent);
+}
+
+bool ConfigurationImport::isSending() const
+{
+    return mpTransfer->isUnderWay();
+}
+
+void ConfigurationImport::cancelSending()
+{
+    mpTransfer->cancel();
+}
+
+void ConfigurationImport::start(const Content &content, const RestoreOptions &options, bool toPanel)
+{
+    mSafetyDirectory = options.safetyDirectory;
+    const auto finish = [this, name = content->info.name](const RestoreResult &result) {
+        if (!result.isDone)
+            return emit sigFailed(result.error);
+        const auto step = std::make_shared<RestoreStep>(RestoreStep{result.safetyFolder});
+        mContext.edits.history().push( // which owns it
+            new RestoreCommand(*this, tr("Import of a backup"), step));
+        emit sigImported(name, result.leftOut);
+    };
+    replace([content](const BackupWatch &) { return content; }, options, toPanel, finish);
+}
+
+/// A step that cannot be taken leaves the history where it was.
+void ConfigurationImport::walk(const std::shared_ptr<RestoreStep> &step, bool forward)
+{
+    const auto load = [folder = step->folder](const BackupWatch &watch) -> Content {
+        auto content = vorlinmodel::loadBackup(folder, watch);
+        return content ? std::make_shared<const BackupContent>(std::move(*content)) : nullptr;
+    };
+    const auto finish = [this, step, forward](const RestoreResult &result) {
+        if (result.isDone) {
+            step->folder = result.safetyFolder;
+            return;
+        }
+        step->isTakenBack = true;
+        QUndoStack &history = mContext.edits.history();
+        forward ? history.undo() : history.redo();
+        if (result.isCancelled)
+            return;
+        const QString text = forward ? tr("The import could not be made again: %1")
+                                     : tr("The import could not be taken back: %1");
+        emit mContext.edits.sigProblem(text.arg(result.error));
+    };
+    replace(load, {.safetyDirectory = mSafetyDirectory, .takesTheRest = false}, false, finish);
+}
+
+void ConfigurationImport::replace(const Load &load, const RestoreOptions &options, bool toPanel,
+                                  const Finish &finish)
+{
+    const auto saved = mContext.edits.beginReplace();
+    const QVector<key_id_t> pending = mContext.edits.pending().keys();
+    mReplacing = true;
+    emit sigReplacing(true);
+    IFunctionManager &store = mContext.edits.store();
+    mWork.start([this, load, options, toPanel, finish, saved, pending, &store](const BackupWatch &watch) {
+        saved.wait();
+        Outcome outcome;
+        const ConfigurationState before = captureConfiguration(store);
+        const Content content = load(watch.part(0, LoadPart));
+        outcome.result.isCancelled = !content;
+        if (content) {
+            // A kill behind the exchange leaves the panel with keys of before: noted beforehand.
+            PendingEdits::saveWhole(before.keys.keys().toVector() + pending + keysOf(content->script));
+            outcome.result = restoreBackup(*content, store, options, watch.part(LoadPart, 100));
+        }
+        if (outcome.result.isDone) {
+            const ConfigurationState after = captureConfiguration(store);
+            outcome.keys = differences(before, after, pending);
+            outcome.layouts = layoutDifferences(before, after);
+            outcome.covered = keysOfPages(after);
+        }
+        return [this, outcome, toPanel, finish] {
+            take(outcome, toPanel);
+            finish(outcome.result);
+            mReplacing = false;
+            emit sigReplacing(false);
+        };
+    });
+}
+
+void ConfigurationImport::take(const Outcome &outcome, bool toPanel)
+{
+    if (!outcome.result.isDone)
+        return mContext.edits.endReplace({}, false);
+    const bool asScript = toPanel && mConnected;
+    mContext.layouts.replaced(outcome.layouts); // a panel has to know a layout before its keys
+    mContext.edits.endReplace(outcome.keys, mConnected && !asScript);
+    if (asScript)
+        sendScript(outcome);
+    auto &language = *mContext.framework.languageManager();
+    if (const int stored = vorlindesk::SystemSettings::language(); stored != language.language())
+        language.setLanguage(stored);
+    emit sigReplaced();
+}
+
+void ConfigurationImport::sendScript(const Outcome &outcome)
+{
+    mCovered = outcome.covered;
+    mpTransfer->start();
+}
+
+/// The script leaves the pages alone that it does not hold: their keys are still pending, and are cleared.
+void ConfigurationImport::onScriptSent(RequestOutcome outcome)
+{
+    QString problem;
+    switch (outcome) {
+    case RequestOutcome::Sent:
+        mContext.edits.panelTook(std::exchange(mCovered, {}));
+        mContext.edits.sendPending();
+        break;
+    case RequestOutcome::Unreadable: // too long for one message
+        mContext.edits.sendPending();
+        problem = tr("The configuration is too large to be sent at once. Its keys are sent one by one.");
+        break;
+    case RequestOutcome::Cancelled:
+        problem = tr(
+            "Sending was cancelled: the panel keeps what it has. It gets what differs when it is connected "
+            "next time.");
+        break;
+    case RequestOutcome::NoPanel:
+    case RequestOutcome::Failed:
+        problem =
+            tr("The panel has not taken the configuration. It gets what differs when it is connected next "
+               "time.");
+        break;
+    }
+    emit sigSent(problem);
+}

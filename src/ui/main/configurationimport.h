@@ -1,0 +1,71 @@
+/// Puts a backup in the place of the configuration, on the computer and on the panel.
+#pragma once
+
+#include "model/backuprestore.h"
+#include "ui_editor/configurationstate.h"
+
+#include <QObject>
+#include <QStringList>
+#include <functional>
+#include <memory>
+
+class BackupWork;
+class RestoreCommand;
+class ScriptTransfer;
+struct EditorContext;
+struct RestoreStep;
+
+namespace vorlinmodel {
+enum class RequestOutcome;
+}
+
+/// User-interface thread only; the files are the work's. An import is one step of the common history. Its
+/// undo restores the safety backup that was made before it, and its redo the one that was made before the
+/// undo, so that each leads to exactly what was there. The steps below it stay: they are states of keys and
+/// layouts by value, and can be reached only through that undo, on the configuration that they belong to.
+class ConfigurationImport : public QObject
+{
+    Q_OBJECT
+public:
+    using Content = std::shared_ptr<const vorlinmodel::BackupContent>;
+
+    /// All outlive this object.
+    ConfigurationImport(EditorContext &context, BackupWork &work, QObject *parent = nullptr);
+
+    /// @p toPanel: the panel gets the whole configuration at once; else, and when that fails, it gets what
+    /// differs as it gets edits: now, or when it comes.
+    void start(const Content &content, const vorlinmodel::RestoreOptions &options, bool toPanel);
+    bool isReplacing() const { return mReplacing; } ///< the store is not the person's
+    bool isSending() const;                         ///< the whole configuration, to the panel
+    void cancelSending();
+    void setConnected(bool connected) { mConnected = connected; }
+
+signals:
+    void sigReplacing(bool on);
+    void sigReplaced(); ///< every view shows the configuration of before
+    void sigImported(const QString &name, const QStringList &leftOut);
+    void sigFailed(const QString &reason); ///< nothing was changed
+    void sigSendProgress(int sentBlocks, int allBlocks);
+    void sigSent(const QString &problem); ///< empty: the panel has it all
+
+private:
+    friend class RestoreCommand;
+    struct Outcome;
+    using Load = std::function<Content(const vorlinmodel::BackupWatch &watch)>;
+    using Finish = std::function<void(const vorlinmodel::RestoreResult &result)>;
+
+    void walk(const std::shared_ptr<RestoreStep> &step, bool forward);
+    void replace(const Load &load, const vorlinmodel::RestoreOptions &options, bool toPanel,
+                 const Finish &finish);
+    void take(const Outcome &outcome, bool toPanel);
+    void sendScript(const Outcome &outcome);
+    void onScriptSent(vorlinmodel::RequestOutcome outcome);
+
+    EditorContext &mContext;
+    BackupWork &mWork;
+    ScriptTransfer *mpTransfer;
+    QString mSafetyDirectory;
+    QVector<vorlinmodel::key_id_t> mCovered; ///< by the script that is sent
+    bool mConnected = false;
+    bool mReplacing = false;
+};
