@@ -124,12 +124,11 @@ private:
                 if (hasPlaceInScript(key))
                     mKeys.append(storedKey(record, mPlan.script.keys.value(key)));
                 if (!hasPlaceInScript(key) || mKeys.last().badPicture)
-                    mResult.leftOut.append(
-                        QStringLiteral("%1 of layout %2 page %3 key %4")
-                            .arg(hasPlaceInScript(key) ? QStringLiteral("picture") : QStringLiteral("record"))
-                            .arg(key.lid)
-                            .arg(key.pageid)
-                            .arg(key.kid));
+                    mResult.leftOut.append(BackupText::part(hasPlaceInScript(key) ? BackupText::Part::Picture
+                                                                                  : BackupText::Part::Record)
+                                               .arg(key.lid)
+                                               .arg(key.pageid)
+                                               .arg(key.kid));
             }
         }
     }

@@ -61,4 +61,45 @@ QString notSwitched(const QString &path, const QString &reason)
         .arg(native(path), reason);
 }
 
+QString part(Part part)
+{
+    switch (part) {
+    case Part::Page:
+        return text(QT_TRANSLATE_NOOP("Backup", "key records of layout %1 page %2"));
+    case Part::Texts:
+        return text(QT_TRANSLATE_NOOP("Backup", "texts of layout %1 page %2 key %3"));
+    case Part::Picture:
+        return text(QT_TRANSLATE_NOOP("Backup", "picture of layout %1 page %2 key %3"));
+    case Part::PictureFile:
+        return text(QT_TRANSLATE_NOOP("Backup", "picture file of layout %1 page %2 key %3"));
+    case Part::Resource:
+        return text(QT_TRANSLATE_NOOP("Backup", "picture path of layout %1 page %2 key %3"));
+    case Part::Video:
+        return text(QT_TRANSLATE_NOOP("Backup", "video of layout %1 page %2 key %3"));
+    case Part::Actions:
+        return text(QT_TRANSLATE_NOOP("Backup", "action list of layout %1 page %2 key %3"));
+    case Part::Record:
+        return text(QT_TRANSLATE_NOOP("Backup", "record of layout %1 page %2 key %3"));
+    case Part::Unknown:
+        return text(QT_TRANSLATE_NOOP("Backup", "unknown section of layout %1 page %2 key %3"));
+    case Part::Header:
+        return text(QT_TRANSLATE_NOOP("Backup", "header"));
+    case Part::Rest:
+        return text(QT_TRANSLATE_NOOP("Backup", "sections %1 to %2"));
+    case Part::Behind:
+        return text(QT_TRANSLATE_NOOP("Backup", "bytes behind the last section"));
+    }
+    return {};
+}
+
+QString key(int layoutId, int pageId, int keyId)
+{
+    return text(QT_TRANSLATE_NOOP("Backup", "layout %1 page %2 key %3")).arg(layoutId).arg(pageId).arg(keyId);
+}
+
+QString fileOfKey(const QString &path, const QString &key, const QString &reason)
+{
+    return text(QT_TRANSLATE_NOOP("Backup", "%1 of %2: %3")).arg(native(path), key, reason);
+}
+
 } // namespace vorlinmodel::BackupText

@@ -1,3 +1,4 @@
+#include "backuptext.h"
 #include "base/log.h"
 #include "model/functionids.h"
 #include "model/ifunctionmanager.h"
@@ -36,7 +37,7 @@ bool isKeyPicture(const QByteArray &file, const key_id_t &key)
 
 QString nameOf(const key_id_t &key)
 {
-    return QStringLiteral("layout %1 page %2 key %3").arg(key.lid).arg(key.pageid).arg(key.kid);
+    return BackupText::key(key.lid, key.pageid, key.kid);
 }
 
 class Builder
@@ -133,7 +134,7 @@ private:
         if (!bytes) {
             Log(LogLevel::Warn, LogText::FileLeftOut, key.lid, key.pageid, key.kid, qUtf8Printable(path),
                 qUtf8Printable(error));
-            mLeftOut.append(QStringLiteral("%1 of %2: %3").arg(path, nameOf(key), error));
+            mLeftOut.append(BackupText::fileOfKey(path, nameOf(key), error));
         }
         mFileBytes += bytes ? bytes->size() : 0;
         return bytes.value_or(QByteArray());

@@ -1,5 +1,6 @@
 #include "scriptformat.h"
 
+#include "backuptext.h"
 #include "crc32.h"
 
 #include <QJsonArray>
@@ -177,17 +178,18 @@ public:
     Script run()
     {
         if (!readHeader()) {
-            mScript.damaged.append(QStringLiteral("header"));
+            mScript.damaged.append(BackupText::part(BackupText::Part::Header));
             return mScript;
         }
         for (quint32 index = 0; index < mSectionCount; ++index) {
             if (!readSection()) { // where the next one begins is not known
-                mScript.damaged.append(QStringLiteral("sections %1 to %2").arg(index + 1).arg(mSectionCount));
+                mScript.damaged.append(
+                    BackupText::part(BackupText::Part::Rest).arg(index + 1).arg(mSectionCount));
                 return mScript;
             }
         }
         if (mOffset != mBytes.size())
-            mScript.damaged.append(QStringLiteral("bytes behind the last section"));
+            mScript.damaged.append(BackupText::part(BackupText::Part::Behind));
         return mScript;
     }
 
@@ -306,27 +308,31 @@ private:
 
     static QString nameOf(const Head &head)
     {
-        const QString place = QStringLiteral("layout %1 page %2").arg(head.id.lid).arg(head.id.pageid);
-        const auto ofKey = [&](const QString &what) {
-            return QStringLiteral("%1 of %2 key %3").arg(what, place).arg(head.id.kid);
-        };
-        switch (static_cast<SectionType>(head.type)) {
+        const QString name = BackupText::part(partOf(static_cast<SectionType>(head.type)));
+        const QString ofPage = name.arg(head.id.lid).arg(head.id.pageid);
+        const bool isOfKey = static_cast<SectionType>(head.type) != SectionType::Page;
+        return isOfKey ? ofPage.arg(head.id.kid) : ofPage;
+    }
+
+    static BackupText::Part partOf(SectionType type)
+    {
+        switch (type) {
         case SectionType::Page:
-            return QStringLiteral("key records of ") + place;
+            return BackupText::Part::Page;
         case SectionType::Texts:
-            return ofKey(QStringLiteral("texts"));
+            return BackupText::Part::Texts;
         case SectionType::Picture:
-            return ofKey(QStringLiteral("picture"));
+            return BackupText::Part::Picture;
         case SectionType::PictureFile:
-            return ofKey(QStringLiteral("picture file"));
+            return BackupText::Part::PictureFile;
         case SectionType::Resource:
-            return ofKey(QStringLiteral("picture path"));
+            return BackupText::Part::Resource;
         case SectionType::Video:
-            return ofKey(QStringLiteral("video"));
+            return BackupText::Part::Video;
         case SectionType::Actions:
-            return ofKey(QStringLiteral("action list"));
+            return BackupText::Part::Actions;
         }
-        return ofKey(QStringLiteral("unknown section"));
+        return BackupText::Part::Unknown;
     }
 
     const QByteArray &mBytes;
