@@ -101,6 +101,271 @@
         <source>&quot;%1&quot; could not be replaced: %2 Nothing was changed.</source>
         <translation>&quot;%1&quot; could not be replaced: %2 Nothing was changed.</translation>
     </message>
+    <message>
+        <source>key records of layout %1 page %2</source>
+        <translation>key records of layout %1 page %2</translation>
+    </message>
+    <message>
+        <source>texts of layout %1 page %2 key %3</source>
+        <translation>texts of layout %1 page %2 key %3</translation>
+    </message>
+    <message>
+        <source>picture of layout %1 page %2 key %3</source>
+        <translation>picture of layout %1 page %2 key %3</translation>
+    </message>
+    <message>
+        <source>picture file of layout %1 page %2 key %3</source>
+        <translation>picture file of layout %1 page %2 key %3</translation>
+    </message>
+    <message>
+        <source>picture path of layout %1 page %2 key %3</source>
+        <translation>picture path of layout %1 page %2 key %3</translation>
+    </message>
+    <message>
+        <source>video of layout %1 page %2 key %3</source>
+        <translation>video of layout %1 page %2 key %3</translation>
+    </message>
+    <message>
+        <source>action list of layout %1 page %2 key %3</source>
+        <translation>action list of layout %1 page %2 key %3</translation>
+    </message>
+    <message>
+        <source>record of layout %1 page %2 key %3</source>
+        <translation>record of layout %1 page %2 key %3</translation>
+    </message>
+    <message>
+        <source>unknown section of layout %1 page %2 key %3</source>
+        <translation>unknown section of layout %1 page %2 key %3</translation>
+    </message>
+    <message>
+        <source>header</source>
+        <translation>header</translation>
+    </message>
+    <message>
+        <source>sections %1 to %2</source>
+        <translation>sections %1 to %2</translation>
+    </message>
+    <message>
+        <source>bytes behind the last section</source>
+        <translation>bytes behind the last section</translation>
+    </message>
+    <message>
+        <source>layout %1 page %2 key %3</source>
+        <translation>layout %1 page %2 key %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <translation>%1 of %2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>BackupPanel</name>
+    <message>
+        <source>The backup was deleted.</source>
+        <translation>The backup was deleted.</translation>
+    </message>
+    <message>
+        <source>The backup could not be deleted. Is one of its files open?</source>
+        <translation>The backup could not be deleted. Is one of its files open?</translation>
+    </message>
+    <message>
+        <source>Imported: %1</source>
+        <translation>Imported: %1</translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation>Left out: %1</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was changed.</source>
+        <translation>Cancelled. Nothing was changed.</translation>
+    </message>
+    <message>
+        <source>The panel has the whole configuration.</source>
+        <translation>The panel has the whole configuration.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Name (optional):</source>
+        <translation>Name (optional):</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Made</source>
+        <translation>Made</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Layouts</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Keys</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Pictures</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Videos</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not there now. Until it is back, backups are kept in the folder above.</source>
+        <translation>&quot;%1&quot; is not there now. Until it is back, backups are kept in the folder above.</translation>
+    </message>
+    <message>
+        <source>There are no backups in this folder yet.</source>
+        <translation>There are no backups in this folder yet.</translation>
+    </message>
+    <message>
+        <source>Choose a backup to see what it holds.</source>
+        <translation>Choose a backup to see what it holds.</translation>
+    </message>
+    <message>
+        <source>A plain export: only its keys can be checked for damage.</source>
+        <translation>A plain export: only its keys can be checked for damage.</translation>
+    </message>
+    <message>
+        <source>Choose a backup in the list first.</source>
+        <translation>Choose a backup in the list first.</translation>
+    </message>
+    <message>
+        <source>The panel is not connected.</source>
+        <translation>The panel is not connected.</translation>
+    </message>
+    <message>
+        <source>Making the backup ...</source>
+        <translation>Making the backup ...</translation>
+    </message>
+    <message>
+        <source>Deleting the backup ...</source>
+        <translation>Deleting the backup ...</translation>
+    </message>
+    <message>
+        <source>Reading the backup ...</source>
+        <translation>Reading the backup ...</translation>
+    </message>
+    <message>
+        <source>Importing ...</source>
+        <translation>Importing ...</translation>
+    </message>
+    <message>
+        <source>Sending to the panel ...</source>
+        <translation>Sending to the panel ...</translation>
+    </message>
+    <message>
+        <source>The folder could not be opened: %1</source>
+        <translation>The folder could not be opened: %1</translation>
+    </message>
+    <message>
+        <source>Delete this backup?</source>
+        <translation>Delete this backup?</translation>
+    </message>
+    <message>
+        <source>Its files are removed from the disk.</source>
+        <translation>Its files are removed from the disk.</translation>
+    </message>
+    <message>
+        <source>Cancelled. No backup was made.</source>
+        <translation>Cancelled. No backup was made.</translation>
+    </message>
+    <message>
+        <source>No backup was made: %1</source>
+        <translation>No backup was made: %1</translation>
+    </message>
+    <message>
+        <source>The backup was made, and read back without a difference.</source>
+        <translation>The backup was made, and read back without a difference.</translation>
+    </message>
+</context>
+<context>
+    <name>BackupTexts</name>
+    <message>
+        <source>export</source>
+        <translation>export</translation>
+    </message>
+    <message>
+        <source>by hand</source>
+        <translation>by hand</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>automatic</translation>
+    </message>
+    <message>
+        <source>before an import</source>
+        <translation>before an import</translation>
+    </message>
+    <message>
+        <source>Layouts: %1, pages: %2, keys: %3, pictures: %4, videos: %5</source>
+        <translation>Layouts: %1, pages: %2, keys: %3, pictures: %4, videos: %5</translation>
+    </message>
+    <message>
+        <source>%1, page %2</source>
+        <translation>%1, page %2</translation>
+    </message>
+    <message>
+        <source>keys added: %1</source>
+        <translation>keys added: %1</translation>
+    </message>
+    <message>
+        <source>changed: %1</source>
+        <translation>changed: %1</translation>
+    </message>
+    <message>
+        <source>removed: %1</source>
+        <translation>removed: %1</translation>
+    </message>
+    <message>
+        <source>Panel layouts</source>
+        <translation>Panel layouts</translation>
+    </message>
+    <message>
+        <source>Steps of the multiple actions</source>
+        <translation>Steps of the multiple actions</translation>
+    </message>
+    <message>
+        <source>Settings: language, switches, child pages, window</source>
+        <translation>Settings: language, switches, child pages, window</translation>
+    </message>
+    <message>
+        <source>Background picture %1</source>
+        <translation>Background picture %1</translation>
+    </message>
+</context>
+<context>
+    <name>Backups</name>
+    <message>
+        <source>Something else is still under way.</source>
+        <translation>Something else is still under way.</translation>
+    </message>
+    <message>
+        <source>The panel is being read.</source>
+        <translation>The panel is being read.</translation>
+    </message>
+    <message>
+        <source>The firmware is being updated.</source>
+        <translation>The firmware is being updated.</translation>
+    </message>
+    <message>
+        <source>A video is being converted or sent. Wait for it, or cancel it.</source>
+        <translation>A video is being converted or sent. Wait for it, or cancel it.</translation>
+    </message>
 </context>
 <context>
     <name>BrightnessRow</name>
@@ -177,6 +442,33 @@
     <message>
         <source>Key %1 of the combination</source>
         <translation>Key %1 of the combination</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigurationImport</name>
+    <message>
+        <source>Import of a backup</source>
+        <translation>Import of a backup</translation>
+    </message>
+    <message>
+        <source>The import could not be made again: %1</source>
+        <translation>The import could not be made again: %1</translation>
+    </message>
+    <message>
+        <source>The import could not be taken back: %1</source>
+        <translation>The import could not be taken back: %1</translation>
+    </message>
+    <message>
+        <source>The configuration is too large to be sent at once. Its keys are sent one by one.</source>
+        <translation>The configuration is too large to be sent at once. Its keys are sent one by one.</translation>
+    </message>
+    <message>
+        <source>Sending was cancelled: the panel keeps what it has. It gets what differs when it is connected next time.</source>
+        <translation>Sending was cancelled: the panel keeps what it has. It gets what differs when it is connected next time.</translation>
+    </message>
+    <message>
+        <source>The panel has not taken the configuration. It gets what differs when it is connected next time.</source>
+        <translation>The panel has not taken the configuration. It gets what differs when it is connected next time.</translation>
     </message>
 </context>
 <context>
@@ -1655,6 +1947,65 @@ What is on this computer is saved as a backup first. “Undo” in the editor br
     <message>
         <source>Restore Defaults</source>
         <translation>Restore Defaults</translation>
+    </message>
+</context>
+<context>
+    <name>RestorePreviewDialog</name>
+    <message>
+        <source>Take over what is not damaged</source>
+        <translation>Take over what is not damaged</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Damaged, and not in what can be taken over:</source>
+        <translation>Damaged, and not in what can be taken over:</translation>
+    </message>
+    <message>
+        <source>Lost, since no backup can hold it:</source>
+        <translation>Lost, since no backup can hold it:</translation>
+    </message>
+    <message>
+        <source>Changes beside the keys:</source>
+        <translation>Changes beside the keys:</translation>
+    </message>
+    <message>
+        <source>Nothing changes</source>
+        <translation>Nothing changes</translation>
+    </message>
+    <message>
+        <source>The configuration here is the same.</source>
+        <translation>The configuration here is the same.</translation>
+    </message>
+    <message>
+        <source>Pages that change:</source>
+        <translation>Pages that change:</translation>
+    </message>
+    <message>
+        <source>The present configuration cannot be backed up, so it cannot be replaced: %1</source>
+        <translation>The present configuration cannot be backed up, so it cannot be replaced: %1</translation>
+    </message>
+    <message>
+        <source>The present configuration is backed up first. The import is one step that can be undone.</source>
+        <translation>The present configuration is backed up first. The import is one step that can be undone.</translation>
+    </message>
+    <message>
+        <source>Then the panel is sent the whole configuration.</source>
+        <translation>Then the panel is sent the whole configuration.</translation>
+    </message>
+    <message>
+        <source>Then the panel is sent what changes.</source>
+        <translation>Then the panel is sent what changes.</translation>
+    </message>
+    <message>
+        <source>The panel is sent what changes when it is connected.</source>
+        <translation>The panel is sent what changes when it is connected.</translation>
+    </message>
+    <message>
+        <source>Parts of the backup are damaged: first choose what becomes of the rest.</source>
+        <translation>Parts of the backup are damaged: first choose what becomes of the rest.</translation>
     </message>
 </context>
 <context>

@@ -101,6 +101,271 @@
         <source>&quot;%1&quot; could not be replaced: %2 Nothing was changed.</source>
         <translation>无法替换“%1”：%2 未作任何更改。</translation>
     </message>
+    <message>
+        <source>key records of layout %1 page %2</source>
+        <translation>布局 %1 第 %2 页的按键记录</translation>
+    </message>
+    <message>
+        <source>texts of layout %1 page %2 key %3</source>
+        <translation>布局 %1 第 %2 页按键 %3 的文本</translation>
+    </message>
+    <message>
+        <source>picture of layout %1 page %2 key %3</source>
+        <translation>布局 %1 第 %2 页按键 %3 的图片</translation>
+    </message>
+    <message>
+        <source>picture file of layout %1 page %2 key %3</source>
+        <translation>布局 %1 第 %2 页按键 %3 的图片文件</translation>
+    </message>
+    <message>
+        <source>picture path of layout %1 page %2 key %3</source>
+        <translation>布局 %1 第 %2 页按键 %3 的图片路径</translation>
+    </message>
+    <message>
+        <source>video of layout %1 page %2 key %3</source>
+        <translation>布局 %1 第 %2 页按键 %3 的视频</translation>
+    </message>
+    <message>
+        <source>action list of layout %1 page %2 key %3</source>
+        <translation>布局 %1 第 %2 页按键 %3 的操作列表</translation>
+    </message>
+    <message>
+        <source>record of layout %1 page %2 key %3</source>
+        <translation>布局 %1 第 %2 页按键 %3 的记录</translation>
+    </message>
+    <message>
+        <source>unknown section of layout %1 page %2 key %3</source>
+        <translation>布局 %1 第 %2 页按键 %3 的未知部分</translation>
+    </message>
+    <message>
+        <source>header</source>
+        <translation>文件头</translation>
+    </message>
+    <message>
+        <source>sections %1 to %2</source>
+        <translation>第 %1 至 %2 部分</translation>
+    </message>
+    <message>
+        <source>bytes behind the last section</source>
+        <translation>最后一部分之后的字节</translation>
+    </message>
+    <message>
+        <source>layout %1 page %2 key %3</source>
+        <translation>布局 %1 第 %2 页按键 %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <translation>%2 的 %1：%3</translation>
+    </message>
+</context>
+<context>
+    <name>BackupPanel</name>
+    <message>
+        <source>The backup was deleted.</source>
+        <translation>备份已删除。</translation>
+    </message>
+    <message>
+        <source>The backup could not be deleted. Is one of its files open?</source>
+        <translation>无法删除备份。是否有其中的文件正被打开？</translation>
+    </message>
+    <message>
+        <source>Imported: %1</source>
+        <translation>已导入：%1</translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation>未包含：%1</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was changed.</source>
+        <translation>已取消。未作任何更改。</translation>
+    </message>
+    <message>
+        <source>The panel has the whole configuration.</source>
+        <translation>面板已获得全部配置。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Name (optional):</source>
+        <translation>名称（可选）：</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Made</source>
+        <translation>来源</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>布局</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not there now. Until it is back, backups are kept in the folder above.</source>
+        <translation>“%1”现在不可用。在其恢复之前，备份保存在上面的文件夹中。</translation>
+    </message>
+    <message>
+        <source>There are no backups in this folder yet.</source>
+        <translation>此文件夹中还没有备份。</translation>
+    </message>
+    <message>
+        <source>Choose a backup to see what it holds.</source>
+        <translation>选择一个备份以查看其内容。</translation>
+    </message>
+    <message>
+        <source>A plain export: only its keys can be checked for damage.</source>
+        <translation>普通导出：只能检查其中的按键是否损坏。</translation>
+    </message>
+    <message>
+        <source>Choose a backup in the list first.</source>
+        <translation>请先在列表中选择一个备份。</translation>
+    </message>
+    <message>
+        <source>The panel is not connected.</source>
+        <translation>面板未连接。</translation>
+    </message>
+    <message>
+        <source>Making the backup ...</source>
+        <translation>正在创建备份……</translation>
+    </message>
+    <message>
+        <source>Deleting the backup ...</source>
+        <translation>正在删除备份……</translation>
+    </message>
+    <message>
+        <source>Reading the backup ...</source>
+        <translation>正在读取备份……</translation>
+    </message>
+    <message>
+        <source>Importing ...</source>
+        <translation>正在导入……</translation>
+    </message>
+    <message>
+        <source>Sending to the panel ...</source>
+        <translation>正在发送到面板……</translation>
+    </message>
+    <message>
+        <source>The folder could not be opened: %1</source>
+        <translation>无法打开文件夹：%1</translation>
+    </message>
+    <message>
+        <source>Delete this backup?</source>
+        <translation>删除此备份？</translation>
+    </message>
+    <message>
+        <source>Its files are removed from the disk.</source>
+        <translation>其文件将从磁盘中删除。</translation>
+    </message>
+    <message>
+        <source>Cancelled. No backup was made.</source>
+        <translation>已取消，未创建备份。</translation>
+    </message>
+    <message>
+        <source>No backup was made: %1</source>
+        <translation>未能创建备份：%1</translation>
+    </message>
+    <message>
+        <source>The backup was made, and read back without a difference.</source>
+        <translation>备份已创建，回读核对一致。</translation>
+    </message>
+</context>
+<context>
+    <name>BackupTexts</name>
+    <message>
+        <source>export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>by hand</source>
+        <translation>手动</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>before an import</source>
+        <translation>导入之前</translation>
+    </message>
+    <message>
+        <source>Layouts: %1, pages: %2, keys: %3, pictures: %4, videos: %5</source>
+        <translation>布局：%1，页面：%2，按键：%3，图片：%4，视频：%5</translation>
+    </message>
+    <message>
+        <source>%1, page %2</source>
+        <translation>%1，第 %2 页</translation>
+    </message>
+    <message>
+        <source>keys added: %1</source>
+        <translation>新增按键：%1</translation>
+    </message>
+    <message>
+        <source>changed: %1</source>
+        <translation>更改：%1</translation>
+    </message>
+    <message>
+        <source>removed: %1</source>
+        <translation>移除：%1</translation>
+    </message>
+    <message>
+        <source>Panel layouts</source>
+        <translation>面板布局</translation>
+    </message>
+    <message>
+        <source>Steps of the multiple actions</source>
+        <translation>多重操作的步骤</translation>
+    </message>
+    <message>
+        <source>Settings: language, switches, child pages, window</source>
+        <translation>设置：语言、开关、子页面、窗口</translation>
+    </message>
+    <message>
+        <source>Background picture %1</source>
+        <translation>背景图片 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Backups</name>
+    <message>
+        <source>Something else is still under way.</source>
+        <translation>其他操作仍在进行中。</translation>
+    </message>
+    <message>
+        <source>The panel is being read.</source>
+        <translation>正在读取面板。</translation>
+    </message>
+    <message>
+        <source>The firmware is being updated.</source>
+        <translation>正在更新固件。</translation>
+    </message>
+    <message>
+        <source>A video is being converted or sent. Wait for it, or cancel it.</source>
+        <translation>正在转换或发送视频。请等待完成，或将其取消。</translation>
+    </message>
 </context>
 <context>
     <name>BrightnessRow</name>
@@ -177,6 +442,33 @@
     <message>
         <source>Key %1 of the combination</source>
         <translation>组合键的第 %1 个键</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigurationImport</name>
+    <message>
+        <source>Import of a backup</source>
+        <translation>导入备份</translation>
+    </message>
+    <message>
+        <source>The import could not be made again: %1</source>
+        <translation>无法重新导入：%1</translation>
+    </message>
+    <message>
+        <source>The import could not be taken back: %1</source>
+        <translation>无法撤销导入：%1</translation>
+    </message>
+    <message>
+        <source>The configuration is too large to be sent at once. Its keys are sent one by one.</source>
+        <translation>配置过大，无法一次发送。将逐个发送按键。</translation>
+    </message>
+    <message>
+        <source>Sending was cancelled: the panel keeps what it has. It gets what differs when it is connected next time.</source>
+        <translation>发送已取消：面板保留原有内容。下次连接时将发送不同之处。</translation>
+    </message>
+    <message>
+        <source>The panel has not taken the configuration. It gets what differs when it is connected next time.</source>
+        <translation>面板未接收配置。下次连接时将发送不同之处。</translation>
     </message>
 </context>
 <context>
@@ -1655,6 +1947,65 @@ What is on this computer is saved as a backup first. “Undo” in the editor br
     <message>
         <source>Restore Defaults</source>
         <translation>恢复默认值</translation>
+    </message>
+</context>
+<context>
+    <name>RestorePreviewDialog</name>
+    <message>
+        <source>Take over what is not damaged</source>
+        <translation>导入未损坏的部分</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Damaged, and not in what can be taken over:</source>
+        <translation>已损坏，无法导入：</translation>
+    </message>
+    <message>
+        <source>Lost, since no backup can hold it:</source>
+        <translation>将会丢失，因为备份无法保存：</translation>
+    </message>
+    <message>
+        <source>Changes beside the keys:</source>
+        <translation>按键以外的更改：</translation>
+    </message>
+    <message>
+        <source>Nothing changes</source>
+        <translation>没有更改</translation>
+    </message>
+    <message>
+        <source>The configuration here is the same.</source>
+        <translation>当前配置与备份相同。</translation>
+    </message>
+    <message>
+        <source>Pages that change:</source>
+        <translation>将更改的页面：</translation>
+    </message>
+    <message>
+        <source>The present configuration cannot be backed up, so it cannot be replaced: %1</source>
+        <translation>无法备份当前配置，因此不能替换它：%1</translation>
+    </message>
+    <message>
+        <source>The present configuration is backed up first. The import is one step that can be undone.</source>
+        <translation>会先备份当前配置。导入是一个可以撤销的步骤。</translation>
+    </message>
+    <message>
+        <source>Then the panel is sent the whole configuration.</source>
+        <translation>随后将全部配置发送到面板。</translation>
+    </message>
+    <message>
+        <source>Then the panel is sent what changes.</source>
+        <translation>随后将更改发送到面板。</translation>
+    </message>
+    <message>
+        <source>The panel is sent what changes when it is connected.</source>
+        <translation>面板连接后，将向其发送更改。</translation>
+    </message>
+    <message>
+        <source>Parts of the backup are damaged: first choose what becomes of the rest.</source>
+        <translation>备份的部分内容已损坏：请先选择如何处理其余部分。</translation>
     </message>
 </context>
 <context>

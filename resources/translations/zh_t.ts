@@ -101,6 +101,271 @@
         <source>&quot;%1&quot; could not be replaced: %2 Nothing was changed.</source>
         <translation>無法取代「%1」：%2 未做任何變更。</translation>
     </message>
+    <message>
+        <source>key records of layout %1 page %2</source>
+        <translation>版面 %1 第 %2 頁的按鍵記錄</translation>
+    </message>
+    <message>
+        <source>texts of layout %1 page %2 key %3</source>
+        <translation>版面 %1 第 %2 頁按鍵 %3 的文字</translation>
+    </message>
+    <message>
+        <source>picture of layout %1 page %2 key %3</source>
+        <translation>版面 %1 第 %2 頁按鍵 %3 的圖片</translation>
+    </message>
+    <message>
+        <source>picture file of layout %1 page %2 key %3</source>
+        <translation>版面 %1 第 %2 頁按鍵 %3 的圖片檔案</translation>
+    </message>
+    <message>
+        <source>picture path of layout %1 page %2 key %3</source>
+        <translation>版面 %1 第 %2 頁按鍵 %3 的圖片路徑</translation>
+    </message>
+    <message>
+        <source>video of layout %1 page %2 key %3</source>
+        <translation>版面 %1 第 %2 頁按鍵 %3 的影片</translation>
+    </message>
+    <message>
+        <source>action list of layout %1 page %2 key %3</source>
+        <translation>版面 %1 第 %2 頁按鍵 %3 的動作清單</translation>
+    </message>
+    <message>
+        <source>record of layout %1 page %2 key %3</source>
+        <translation>版面 %1 第 %2 頁按鍵 %3 的記錄</translation>
+    </message>
+    <message>
+        <source>unknown section of layout %1 page %2 key %3</source>
+        <translation>版面 %1 第 %2 頁按鍵 %3 的未知部分</translation>
+    </message>
+    <message>
+        <source>header</source>
+        <translation>檔案標頭</translation>
+    </message>
+    <message>
+        <source>sections %1 to %2</source>
+        <translation>第 %1 至 %2 部分</translation>
+    </message>
+    <message>
+        <source>bytes behind the last section</source>
+        <translation>最後一部分之後的位元組</translation>
+    </message>
+    <message>
+        <source>layout %1 page %2 key %3</source>
+        <translation>版面 %1 第 %2 頁按鍵 %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <translation>%2 的 %1：%3</translation>
+    </message>
+</context>
+<context>
+    <name>BackupPanel</name>
+    <message>
+        <source>The backup was deleted.</source>
+        <translation>備份已刪除。</translation>
+    </message>
+    <message>
+        <source>The backup could not be deleted. Is one of its files open?</source>
+        <translation>無法刪除備份。是否有其中的檔案正被開啟？</translation>
+    </message>
+    <message>
+        <source>Imported: %1</source>
+        <translation>已匯入：%1</translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation>未包含：%1</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was changed.</source>
+        <translation>已取消。未做任何變更。</translation>
+    </message>
+    <message>
+        <source>The panel has the whole configuration.</source>
+        <translation>面板已取得全部設定。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Name (optional):</source>
+        <translation>名稱（選填）：</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名稱</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Made</source>
+        <translation>來源</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>版面</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>頁面</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>按鍵</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>圖片</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>影片</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not there now. Until it is back, backups are kept in the folder above.</source>
+        <translation>「%1」目前無法使用。在其恢復之前，備份會儲存在上方的資料夾中。</translation>
+    </message>
+    <message>
+        <source>There are no backups in this folder yet.</source>
+        <translation>此資料夾中還沒有備份。</translation>
+    </message>
+    <message>
+        <source>Choose a backup to see what it holds.</source>
+        <translation>選擇一個備份以檢視其內容。</translation>
+    </message>
+    <message>
+        <source>A plain export: only its keys can be checked for damage.</source>
+        <translation>一般匯出：只能檢查其中的按鍵是否損壞。</translation>
+    </message>
+    <message>
+        <source>Choose a backup in the list first.</source>
+        <translation>請先在清單中選擇一個備份。</translation>
+    </message>
+    <message>
+        <source>The panel is not connected.</source>
+        <translation>面板未連線。</translation>
+    </message>
+    <message>
+        <source>Making the backup ...</source>
+        <translation>正在建立備份……</translation>
+    </message>
+    <message>
+        <source>Deleting the backup ...</source>
+        <translation>正在刪除備份……</translation>
+    </message>
+    <message>
+        <source>Reading the backup ...</source>
+        <translation>正在讀取備份……</translation>
+    </message>
+    <message>
+        <source>Importing ...</source>
+        <translation>正在匯入……</translation>
+    </message>
+    <message>
+        <source>Sending to the panel ...</source>
+        <translation>正在傳送到面板……</translation>
+    </message>
+    <message>
+        <source>The folder could not be opened: %1</source>
+        <translation>無法開啟資料夾：%1</translation>
+    </message>
+    <message>
+        <source>Delete this backup?</source>
+        <translation>刪除此備份？</translation>
+    </message>
+    <message>
+        <source>Its files are removed from the disk.</source>
+        <translation>其檔案將從磁碟中刪除。</translation>
+    </message>
+    <message>
+        <source>Cancelled. No backup was made.</source>
+        <translation>已取消，未建立備份。</translation>
+    </message>
+    <message>
+        <source>No backup was made: %1</source>
+        <translation>未能建立備份：%1</translation>
+    </message>
+    <message>
+        <source>The backup was made, and read back without a difference.</source>
+        <translation>備份已建立，回讀核對一致。</translation>
+    </message>
+</context>
+<context>
+    <name>BackupTexts</name>
+    <message>
+        <source>export</source>
+        <translation>匯出</translation>
+    </message>
+    <message>
+        <source>by hand</source>
+        <translation>手動</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>before an import</source>
+        <translation>匯入之前</translation>
+    </message>
+    <message>
+        <source>Layouts: %1, pages: %2, keys: %3, pictures: %4, videos: %5</source>
+        <translation>版面：%1，頁面：%2，按鍵：%3，圖片：%4，影片：%5</translation>
+    </message>
+    <message>
+        <source>%1, page %2</source>
+        <translation>%1，第 %2 頁</translation>
+    </message>
+    <message>
+        <source>keys added: %1</source>
+        <translation>新增按鍵：%1</translation>
+    </message>
+    <message>
+        <source>changed: %1</source>
+        <translation>變更：%1</translation>
+    </message>
+    <message>
+        <source>removed: %1</source>
+        <translation>移除：%1</translation>
+    </message>
+    <message>
+        <source>Panel layouts</source>
+        <translation>面板版面</translation>
+    </message>
+    <message>
+        <source>Steps of the multiple actions</source>
+        <translation>多重動作的步驟</translation>
+    </message>
+    <message>
+        <source>Settings: language, switches, child pages, window</source>
+        <translation>設定：語言、開關、子頁面、視窗</translation>
+    </message>
+    <message>
+        <source>Background picture %1</source>
+        <translation>背景圖片 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Backups</name>
+    <message>
+        <source>Something else is still under way.</source>
+        <translation>其他操作仍在進行中。</translation>
+    </message>
+    <message>
+        <source>The panel is being read.</source>
+        <translation>正在讀取面板。</translation>
+    </message>
+    <message>
+        <source>The firmware is being updated.</source>
+        <translation>正在更新韌體。</translation>
+    </message>
+    <message>
+        <source>A video is being converted or sent. Wait for it, or cancel it.</source>
+        <translation>正在轉換或傳送影片。請等待完成，或將其取消。</translation>
+    </message>
 </context>
 <context>
     <name>BrightnessRow</name>
@@ -177,6 +442,33 @@
     <message>
         <source>Key %1 of the combination</source>
         <translation>組合鍵的第 %1 個鍵</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigurationImport</name>
+    <message>
+        <source>Import of a backup</source>
+        <translation>匯入備份</translation>
+    </message>
+    <message>
+        <source>The import could not be made again: %1</source>
+        <translation>無法重新匯入：%1</translation>
+    </message>
+    <message>
+        <source>The import could not be taken back: %1</source>
+        <translation>無法復原匯入：%1</translation>
+    </message>
+    <message>
+        <source>The configuration is too large to be sent at once. Its keys are sent one by one.</source>
+        <translation>設定過大，無法一次傳送。將逐一傳送按鍵。</translation>
+    </message>
+    <message>
+        <source>Sending was cancelled: the panel keeps what it has. It gets what differs when it is connected next time.</source>
+        <translation>傳送已取消：面板保留原有內容。下次連線時將傳送不同之處。</translation>
+    </message>
+    <message>
+        <source>The panel has not taken the configuration. It gets what differs when it is connected next time.</source>
+        <translation>面板未接收設定。下次連線時將傳送不同之處。</translation>
     </message>
 </context>
 <context>
@@ -1655,6 +1947,65 @@ What is on this computer is saved as a backup first. “Undo” in the editor br
     <message>
         <source>Restore Defaults</source>
         <translation>還原預設值</translation>
+    </message>
+</context>
+<context>
+    <name>RestorePreviewDialog</name>
+    <message>
+        <source>Take over what is not damaged</source>
+        <translation>匯入未損壞的部分</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Damaged, and not in what can be taken over:</source>
+        <translation>已損壞，無法匯入：</translation>
+    </message>
+    <message>
+        <source>Lost, since no backup can hold it:</source>
+        <translation>將會遺失，因為備份無法儲存：</translation>
+    </message>
+    <message>
+        <source>Changes beside the keys:</source>
+        <translation>按鍵以外的變更：</translation>
+    </message>
+    <message>
+        <source>Nothing changes</source>
+        <translation>沒有變更</translation>
+    </message>
+    <message>
+        <source>The configuration here is the same.</source>
+        <translation>目前設定與備份相同。</translation>
+    </message>
+    <message>
+        <source>Pages that change:</source>
+        <translation>將變更的頁面：</translation>
+    </message>
+    <message>
+        <source>The present configuration cannot be backed up, so it cannot be replaced: %1</source>
+        <translation>無法備份目前設定，因此不能取代它：%1</translation>
+    </message>
+    <message>
+        <source>The present configuration is backed up first. The import is one step that can be undone.</source>
+        <translation>會先備份目前設定。匯入是一個可以復原的步驟。</translation>
+    </message>
+    <message>
+        <source>Then the panel is sent the whole configuration.</source>
+        <translation>隨後將全部設定傳送到面板。</translation>
+    </message>
+    <message>
+        <source>Then the panel is sent what changes.</source>
+        <translation>隨後將變更傳送到面板。</translation>
+    </message>
+    <message>
+        <source>The panel is sent what changes when it is connected.</source>
+        <translation>面板連線後，將向其傳送變更。</translation>
+    </message>
+    <message>
+        <source>Parts of the backup are damaged: first choose what becomes of the rest.</source>
+        <translation>備份的部分內容已損壞：請先選擇如何處理其餘部分。</translation>
     </message>
 </context>
 <context>

@@ -26,6 +26,7 @@ constexpr int ToHostText = 18;
 constexpr int OpenText = 83;
 constexpr int ChooseText = 90;
 constexpr int ToPanelText = 119;
+constexpr int FirstCount = 3; // column
 constexpr int FolderRole = Qt::UserRole;
 
 QString shownPath(const QString &path)
@@ -52,7 +53,7 @@ void BackupPanel::showEvent(QShowEvent *event)
 
 void BackupPanel::retranslate()
 {
-    mpCaption->setText(mLanguage.Text(CaptionText) + tr(":"));
+    mpCaption->setText(mLanguage.Text(CaptionText));
     mpChoose->setText(mLanguage.Text(ChooseText));
     mpOpen->setText(mLanguage.Text(OpenText));
     mpCreate->setText(mLanguage.Text(CreateText));
@@ -60,10 +61,11 @@ void BackupPanel::retranslate()
     mpToPanel->setText(mLanguage.Text(ToPanelText));
     mpDelete->setText(mLanguage.Text(DeleteText));
     mpCancel->setText(tr("Cancel"));
-    mpNameCaption->setText(tr("Name:"));
-    mpName->setPlaceholderText(tr("may stay empty"));
+    mpNameCaption->setText(tr("Name (optional):"));
     mpList->setHeaderLabels({tr("Name"), tr("Date"), tr("Made"), tr("Layouts"), tr("Pages"), tr("Keys"),
                              tr("Pictures"), tr("Videos")});
+    for (int column = FirstCount; column < mpList->columnCount(); ++column)
+        mpList->headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
     say({}); // it is in the language of before
     fillList();
 }
@@ -77,7 +79,7 @@ void BackupPanel::fillList()
         auto *item = new QTreeWidgetItem(mpList, columnsOf(info)); // the list owns it
         item->setData(0, FolderRole, info.folder);
         item->setToolTip(0, info.name);
-        for (int column = 3; column < item->columnCount(); ++column)
+        for (int column = FirstCount; column < item->columnCount(); ++column)
             item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
         if (QDir::cleanPath(info.folder) == before)
             mpList->setCurrentItem(item);
