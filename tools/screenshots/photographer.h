@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMouseEvent>
+#include <QScrollArea>
 #include <QTimer>
 #include <QWidget>
 #include <cstdio>
@@ -137,6 +138,15 @@ public:
     {
         mWindow.resize(size);
         wait(300);
+    }
+    /// Into view, where its page can be scrolled.
+    void scrollTo(const char *name)
+    {
+        QWidget *widget = named(name);
+        for (QWidget *parent = widget; parent; parent = parent->parentWidget()) {
+            if (auto *area = qobject_cast<QScrollArea *>(parent))
+                area->ensureWidgetVisible(widget);
+        }
     }
     bool failed() const { return mFailed; }
 

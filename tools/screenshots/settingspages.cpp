@@ -2,11 +2,14 @@
 
 #include "app/frameworkcontext.h"
 #include "base/language.h"
+#include "model/ifunctionmanager.h"
 #include "photographer.h"
 #include "protocol/iprotocolthread.h"
 #include "ui_common/filedialog.h"
 
 #include <QFile>
+#include <QLineEdit>
+#include <QPushButton>
 
 namespace {
 
@@ -35,6 +38,28 @@ void takeUpgrade(Photographer &photographer, vorlindesk::FrameworkContext &conte
     photographer.close("upgradeDialog");
 }
 
+/// The group of the backups and the preview of an import, in every language. The last backup differs from the
+/// keys of now by two.
+void takeBackups(Photographer &photographer, vorlindesk::FrameworkContext &context)
+{
+    photographer.child<QLineEdit>("backupName")->setText(QStringLiteral("Desk"));
+    photographer.clickNamed("createBackup");
+    photographer.waitUntil([&] { return photographer.child<QPushButton>("importToHost")->isEnabled(); });
+    context.functionManager()->deleteKeyAttribute({1, 1, 4});
+    context.functionManager()->setTitle({1, 1, 10}, QStringLiteral("Other"));
+    photographer.scrollTo("backupPanel");
+    photographer.takeInEachLanguage(*context.languageManager(), "backups");
+    constexpr std::pair<int, const char *> languages[] = {
+        {1, "restore_preview_zh_s"}, {2, "restore_preview_zh_t"}, {0, "restore_preview"}};
+    for (const auto &[value, name] : languages) {
+        context.languageManager()->setLanguage(value);
+        photographer.clickNamed("importToPanel");
+        photographer.waitUntil([] { return QApplication::activeModalWidget() != nullptr; });
+        photographer.take(name, *QApplication::activeModalWidget());
+        QApplication::activeModalWidget()->close();
+    }
+}
+
 } // namespace
 
 void takeSettings(Photographer &photographer, vorlindesk::FrameworkContext &context)
@@ -42,6 +67,7 @@ void takeSettings(Photographer &photographer, vorlindesk::FrameworkContext &cont
     vorlindesk::LanguageManager &language = *context.languageManager();
     photographer.clickNamed("mSystemSetBtn");
     photographer.takeInEachLanguage(language, "settings");
+    takeBackups(photographer, context);
     photographer.clickNamed("networkSettings");
     photographer.takeInEachLanguage(language, "network", "networkSetDialog");
     photographer.close("networkSetDialog");
