@@ -463,6 +463,10 @@ private slots:
         QVERIFY(!f.backups().isHolding());
         f.backups().startAutomatic(); // once
         QVERIFY(!timer->isActive());
+        f.changeAll();
+        f.frame->setReading(true);
+        f.frame->setReading(false);
+        QVERIFY(!timer->isActive()); // only the first read counts
     }
 
     void theEndOfTheProgramIsNotHeldUp()

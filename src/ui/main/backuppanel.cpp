@@ -17,6 +17,7 @@ namespace {
 
 constexpr int LongestName = 80; // characters that a backup keeps
 constexpr int ListHeight = 168; // pixels: five backups
+constexpr int DetailLines = 2;
 constexpr int ProgressWidth = 220;
 
 constexpr char PanelStyle[] =
@@ -68,6 +69,8 @@ BackupPanel::BackupPanel(Backups &backups, vorlindesk::LanguageManager &language
                   QString::fromLatin1(PanelStyle));
     setUpList();
     mpDetails->setWordWrap(true);
+    mpDetails->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    mpDetails->setMinimumHeight(DetailLines * fontMetrics().lineSpacing()); // or the buttons would jump
     mpDetails->setTextInteractionFlags(Qt::TextSelectableByMouse);
     mpMessage->setWordWrap(true);
     auto *layout = new QVBoxLayout(this);

@@ -237,8 +237,11 @@ void Backups::setConnected(bool connected)
 
 void Backups::setReading(bool reading)
 {
-    if (std::exchange(mReading, reading) != reading)
-        emit sigActivity();
+    if (std::exchange(mReading, reading) == reading)
+        return;
+    if (!reading && mHasStarted && !std::exchange(mHasReadPanel, true))
+        mIdleTimer.start(); // the state of the last run may be backed up already; this is that of the panel
+    emit sigActivity();
 }
 
 void Backups::onIdle()

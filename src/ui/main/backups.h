@@ -55,8 +55,8 @@ public:
     /// The files or the store must not be changed by others: the panel is not to be read.
     bool isHolding() const { return mHolds > 0 || mImport.isReplacing(); }
 
-    /// Once, when the window is shown: as soon as nothing else is going on, a backup if something has changed
-    /// since the last.
+    /// When the window is shown: as soon as nothing else is going on, a backup if something has changed since
+    /// the last. Once, and once more when the panel has been read for the first time.
     void startAutomatic();
     void finish(); ///< the end of the program: gives up what is under way, and waits for it
 
@@ -91,6 +91,7 @@ private:
     bool mReading = false;
     int mHolds = 0; ///< tasks that hold back the saving
     bool mHasStarted = false;
+    bool mHasReadPanel = false;
     bool mIsAutomatic = false; ///< such a backup is under way
     QTimer mIdleTimer{this};
     BackupWork mWork;

@@ -93,6 +93,9 @@ RestorePreviewDialog::RestorePreviewDialog(const Backups::Opened &opened, bool t
     buttons->addWidget(mpImport);
     buttons->addWidget(cancel);
     layout->addLayout(buttons);
+    QWidget *above = mpRest ? static_cast<QWidget *>(mpRest) : findChild<QTreeWidget *>();
+    setTabOrder(above, mpImport);
+    setTabOrder(mpImport, cancel);
     cancel->setDefault(true); // Enter must not replace a configuration
     cancel->setFocus();
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
