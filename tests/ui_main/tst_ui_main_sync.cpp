@@ -4,6 +4,7 @@
 #include "ui_common/messagebox.h"
 #include "ui_editor/editorcontext.h"
 #include "ui_editor/functionconfigwidget.h"
+#include "ui_main/backups.h"
 #include "ui_main/mainframe.h"
 #include "ui_main/waitingspinnerwidget.h"
 #include "ui_main/widget.h"
@@ -370,6 +371,30 @@ private slots:
         settle();
         QCOMPARE(label("softwareVersion"), "PIC Software Version: SW 3.4"_s);
         QCOMPARE(label("activity"), "Looking for the panel..."_s);
+    }
+
+    void aReadWaitsForABackup_data()
+    {
+        const Table<bool> row;
+        row("that a person asks for", true);
+        row("that the panel begins", false);
+    }
+
+    void aReadWaitsForABackup()
+    {
+        const auto [isAskedFor] = Table<bool>::current();
+        mpContext->store.createKeyAttribute({1, 1, 3}, 5);
+        Backups &backups = mpWidget->findChild<MainFrame *>()->backups();
+        backups.create({});
+        QVERIFY(backups.isHolding());
+        if (isAskedFor)
+            mpWidget->readConfiguration();
+        else
+            receive(PanelMessage::page(1, 1, 1));
+        QTRY_COMPARE(vorlinmodel::Profiles::list({}).size(), 1);
+        QTRY_COMPARE(mpContext->requests, ReadRequest); // of which the fake panel answers nothing
+        QVERIFY(!backups.isHolding());
+        QVERIFY(mpContext->store.getKeyAttribute({1, 1, 3})); // what came too early took nothing away
     }
 
     void timeOutBoxSaysWhatFailed_data()

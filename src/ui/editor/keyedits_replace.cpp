@@ -28,10 +28,7 @@ void KeyEdits::endReplace(const QVector<KeyDifference> &changed, bool send)
             mPending.note(difference.key, difference.attributes);
         }
     }
-    // At once, not after the rest: until then a kill would leave the keys of before on the panel, whose next
-    // read would bring them back.
-    if (!mPending.save())
-        emit sigProblem(tr("The keys could not be saved. Is the disk full?"));
+    // Until that saving the file says more than is true, see PendingEdits::saveWhole(), which does no harm.
     mFiles.touch();
     mFiles.release();
     if (std::exchange(mSendAfterRead, false))
