@@ -430,6 +430,30 @@ private slots:
         QCOMPARE(problems.size(), 1);
     }
 
+    /// What the work does up to the exchange, and then nothing more.
+    void aKillBehindTheExchange()
+    {
+        BackupsFixture f;
+        f.fill();
+        const QStringList panelBefore = f.onPanel();
+        const auto keysBefore = f.store.getKeys();
+        const auto made = Profiles::create({}, f.store);
+        f.changeAll();
+        QVERIFY(f.edits().saveNow());
+        const auto changed = f.store.getKeys();
+        f.frame.reset();
+        f.protocolThread()->stop();
+        f.context.reset(); // one that is killed does not save at its end
+        QVERIFY(PendingEdits::saveWhole((keysBefore + changed).toVector()));
+        QVERIFY(restoreBackup(*loadBackup(made.folder), f.store, {}).isDone);
+        f.restart();
+        QCOMPARE(f.store.getKeys(), keysBefore);
+        f.editor().layouts.replaced({2}); // of which nothing was noted
+        f.edits().sendPending();
+        f.waitForPanel();
+        QCOMPARE(f.onPanel(), panelBefore);
+    }
+
     void theSettingsOfTheBackupCountAtOnce()
     {
         BackupsFixture f(Panel::None);
