@@ -292,6 +292,10 @@
         <source>The backup was made, and read back without a difference.</source>
         <translation>The backup was made, and read back without a difference.</translation>
     </message>
+    <message>
+        <source>Backups</source>
+        <translation>Backups</translation>
+    </message>
 </context>
 <context>
     <name>BackupTexts</name>

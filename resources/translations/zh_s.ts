@@ -292,6 +292,10 @@
         <source>The backup was made, and read back without a difference.</source>
         <translation>备份已创建，回读核对一致。</translation>
     </message>
+    <message>
+        <source>Backups</source>
+        <translation>备份</translation>
+    </message>
 </context>
 <context>
     <name>BackupTexts</name>

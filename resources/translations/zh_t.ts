@@ -292,6 +292,10 @@
         <source>The backup was made, and read back without a difference.</source>
         <translation>備份已建立，回讀核對一致。</translation>
     </message>
+    <message>
+        <source>Backups</source>
+        <translation>備份</translation>
+    </message>
 </context>
 <context>
     <name>BackupTexts</name>

@@ -53,6 +53,7 @@ void BackupPanel::showEvent(QShowEvent *event)
 
 void BackupPanel::retranslate()
 {
+    setWindowTitle(tr("Backups")); // which the page shows above it
     mpCaption->setText(mLanguage.Text(CaptionText));
     mpChoose->setText(mLanguage.Text(ChooseText));
     mpOpen->setText(mLanguage.Text(OpenText));
