@@ -6,6 +6,7 @@
 
 #include <QFile>
 #include <QRegularExpression>
+#include <optional>
 
 using vorlindesk::IniFile;
 using vorlinmodel::AttributeId;

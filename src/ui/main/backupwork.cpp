@@ -61,11 +61,12 @@ void BackupWork::finish()
     while (mpJob) { // its delivery may start another
         mWaiting.clear();
         cancel();
-        deliver(mpJob);
+        const auto job = mpJob; // which deliver() lets go
+        deliver(job);
     }
 }
 
-void BackupWork::deliver(std::shared_ptr<Job> job)
+void BackupWork::deliver(const std::shared_ptr<Job> &job)
 {
     if (job != mpJob) // delivered by finish()
         return;

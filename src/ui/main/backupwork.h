@@ -40,7 +40,7 @@ private:
     struct Job;
 
     void startNext();
-    void deliver(std::shared_ptr<Job> job); ///< a copy: it may be mpJob itself
+    void deliver(const std::shared_ptr<Job> &job); ///< not mpJob itself
 
     std::deque<Task> mWaiting;
     std::shared_ptr<Job> mpJob;

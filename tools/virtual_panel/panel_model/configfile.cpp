@@ -62,7 +62,7 @@ std::optional<QPair<QByteArray, QByteArray>> parts(const QByteArray &data)
 QByteArray actionsOf(const QByteArray &json)
 {
     QVector<ActionList::Action> actions;
-    for (const QJsonValue &value : QJsonDocument::fromJson(json).array()) {
+    for (const QJsonValue value : QJsonDocument::fromJson(json).array()) {
         const QJsonObject step = value.toObject();
         actions.append({static_cast<qint8>(step.value(QLatin1String("fid")).toInt()),
                         static_cast<quint16>(step.value(QLatin1String("delay")).toInt()),
