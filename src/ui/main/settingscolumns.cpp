@@ -7,7 +7,7 @@ namespace {
 
 constexpr int Gap = 16;
 constexpr int ScrollBarGap = 12; // between the groups and the bar that may stand beside them
-constexpr int WidestGroup = 900; // pixels; in wider ones the texts would be far from what they belong to
+constexpr int WidestGroup = SettingsColumns::TwoColumnsFrom; // of two on a very wide screen
 
 void removeAll(QBoxLayout &layout)
 {
