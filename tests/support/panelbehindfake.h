@@ -58,15 +58,25 @@ public:
     {
         fakeHid().setPresent(false);
         const std::lock_guard lock(mMutex);
+        mIsPlugged = false;
         mPanel.resetLink();
         mPayload.clear();
     }
-    void plug() { fakeHid().setPresent(true); }
+    void plug()
+    {
+        {
+            const std::lock_guard lock(mMutex);
+            mIsPlugged = true;
+        }
+        fakeHid().setPresent(true);
+    }
 
 private:
     void receive(const QByteArray &report)
     {
         const std::lock_guard lock(mMutex);
+        if (!mIsPlugged) // pulled out while this report was on its way: it would be half a message
+            return;
         mPayload += report.mid(7, report.at(5));
         if (report.at(2) != 1)
             mMessages.push_back(QString::fromLatin1(std::exchange(mPayload, {}).toHex(' ')));
@@ -84,6 +94,7 @@ private:
 
     std::mutex mMutex;
     PanelModel mPanel;
+    bool mIsPlugged = true; ///< since the last plug() or unplug()
     QElapsedTimer mSinceLast;
     QByteArray mPayload;
     std::vector<QString> mMessages; // no list of Qt: see FakeHid::State
