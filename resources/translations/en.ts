@@ -370,6 +370,10 @@
         <source>A video is being converted or sent. Wait for it, or cancel it.</source>
         <translation>A video is being converted or sent. Wait for it, or cancel it.</translation>
     </message>
+    <message>
+        <source>The panel is being cleared.</source>
+        <translation type="unfinished">The panel is being cleared.</translation>
+    </message>
 </context>
 <context>
     <name>BrightnessRow</name>
@@ -907,6 +911,10 @@
     <message>
         <source>Your configuration is saved in %1</source>
         <translation>Your configuration is saved in %1</translation>
+    </message>
+    <message>
+        <source>The backup does not hold everything. Upgrade all the same?</source>
+        <translation>The backup does not hold everything. Upgrade all the same?</translation>
     </message>
 </context>
 <context>

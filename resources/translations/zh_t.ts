@@ -370,6 +370,10 @@
         <source>A video is being converted or sent. Wait for it, or cancel it.</source>
         <translation>正在轉換或傳送影片。請等待完成，或將其取消。</translation>
     </message>
+    <message>
+        <source>The panel is being cleared.</source>
+        <translation type="unfinished">正在清除面板。</translation>
+    </message>
 </context>
 <context>
     <name>BrightnessRow</name>
@@ -907,6 +911,10 @@
     <message>
         <source>Your configuration is saved in %1</source>
         <translation>您的設定已儲存在 %1</translation>
+    </message>
+    <message>
+        <source>The backup does not hold everything. Upgrade all the same?</source>
+        <translation>備份不包含全部內容。仍要升級嗎？</translation>
     </message>
 </context>
 <context>

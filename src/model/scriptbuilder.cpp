@@ -40,6 +40,31 @@ QString nameOf(const key_id_t &key)
     return BackupText::key(key.lid, key.pageid, key.kid);
 }
 
+using Records = QVector<QPair<key_id_t, key_atttribute_t>>;
+
+Records recordsOf(const IFunctionManager &store)
+{
+    Records records;
+    for (const key_id_t &key : store.getKeys()) {
+        if (const auto attribute = store.getKeyAttribute(key)) // else deleted meanwhile
+            records.append({key, *attribute});
+    }
+    return records;
+}
+
+/// The person may edit meanwhile, and swap two keys of which one has been read. Twice the same means that
+/// none has changed between.
+Records recordsOfOneMoment(const IFunctionManager &store)
+{
+    Records records = recordsOf(store);
+    for (;;) {
+        Records again = recordsOf(store);
+        if (again == records)
+            return again;
+        records = std::move(again);
+    }
+}
+
 class Builder
 {
 public:
@@ -57,12 +82,11 @@ public:
 
     std::optional<Script> run(const BackupWatch &watch)
     {
-        const QList<key_id_t> keys = mStore.getKeys();
-        for (int i = 0; i < keys.size(); ++i) {
-            if (!watch.goesOn(i, int(keys.size())))
+        const Records records = recordsOfOneMoment(mStore);
+        for (int i = 0; i < records.size(); ++i) {
+            if (!watch.goesOn(i, int(records.size())))
                 return std::nullopt;
-            if (const auto attribute = mStore.getKeyAttribute(keys.at(i))) // else deleted meanwhile
-                take(keys.at(i), *attribute);
+            take(records.at(i).first, records.at(i).second);
         }
         if (!mScript.pages.isEmpty()) {
             mScript.layoutId = mScript.pages.first().layoutId;

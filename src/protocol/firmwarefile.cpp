@@ -20,7 +20,7 @@ FirmwareFile::Problem FirmwareFile::load(const QString &path)
         return Problem::TooLarge;
     QString reason;
     const auto bytes = readWholeFile(path, reason, Largest);
-    if (!bytes)
+    if (!bytes || bytes->size() < file.size()) // a medium that is going, or another writer
         return Problem::Unreadable;
     mSinceLoad.start();
     mPath = path;

@@ -166,7 +166,13 @@ bool Upgrade::requestUpgrade()
 bool Upgrade::dropWaitingRequests()
 {
     say(Text::UpgradeRequested);
-    mContext.queue.clear(); // they were meant for the firmware that goes now
+    // They were meant for the firmware that goes now. Who posted them learns that the panel does not have
+    // them; an upgrade that was asked for twice is no news to the dialog, which would take it for the end of
+    // this one.
+    for (const Request &request : mContext.queue.clear()) {
+        if (request.functionCode != mRequest.functionCode)
+            emit mContext.events.sigRequestDone(request, RequestOutcome::NoPanel);
+    }
     return true;
 }
 

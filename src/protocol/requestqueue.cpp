@@ -11,11 +11,17 @@ void RequestQueue::post(Request request)
     mChanged.notify_all();
 }
 
-void RequestQueue::clear()
+std::vector<Request> RequestQueue::clear()
 {
-    std::deque<Entry> dropped; // released after the lock
-    const std::lock_guard lock(mMutex);
-    mRequests.swap(dropped);
+    std::deque<Entry> dropped;
+    {
+        const std::lock_guard lock(mMutex);
+        mRequests.swap(dropped);
+    }
+    std::vector<Request> requests;
+    for (Entry &entry : dropped)
+        requests.push_back(std::move(entry.request));
+    return requests;
 }
 
 std::optional<Request> RequestQueue::take()

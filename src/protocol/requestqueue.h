@@ -9,6 +9,7 @@
 #include <deque>
 #include <mutex>
 #include <optional>
+#include <vector>
 
 namespace vorlinmodel {
 
@@ -16,8 +17,8 @@ namespace vorlinmodel {
 class RequestQueue
 {
 public:
-    void post(Request request); ///< ends a waitForRequest() that is under way
-    void clear();
+    void post(Request request);    ///< ends a waitForRequest() that is under way
+    std::vector<Request> clear();  ///< @return what waited, oldest first
     std::optional<Request> take(); ///< the oldest request, or nothing; never waits for one
 
     /// Takes the oldest request to carry it out: until end() it is the one that isCancelled() is about.

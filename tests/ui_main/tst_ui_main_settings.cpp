@@ -9,6 +9,7 @@
 #include "ui_editor/editorfixture.h"
 #include "ui_editor/keyboardwidget.h"
 #include "ui_editor/keywidget.h"
+#include "ui_main/backups.h"
 #include "ui_main/mainframe.h"
 #include "ui_main/systemsettingspage.h"
 #include "ui_main/widget.h"
@@ -283,9 +284,11 @@ private slots:
 
     void withoutASafetyBackupOnlyOnRequest()
     {
+#ifdef Q_OS_WIN
+        QSKIP("there is no folder in which nobody can write");
+#endif
         SettingsFixture f;
-        QVERIFY(writeTestFile(f.path("file"), "no folder"));
-        f.store.setProfileDirectory(f.path("file"));
+        f.frame().backups().setDirectory("/proc"_s);
         {
             const Answers answers({yes, no});
             f.button("resetAll")->click();

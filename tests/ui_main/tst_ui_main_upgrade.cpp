@@ -29,10 +29,14 @@ public:
                      const QString &fileName) override
     {
         requests << "%1: %2, %3"_s.arg(int(kind)).arg(devicePath, fileName);
+        const vorlinmodel::Request request{quint32(kind), 0, 0, 0, 0, 0, devicePath, fileName, 0};
         if (real)
-            real->postRequest({quint32(kind), 0, 0, 0, 0, 0, devicePath, fileName, 0});
+            real->postRequest(request);
+        else if (isAnswered)
+            emit thread.sigRequestDone(request, vorlinmodel::RequestOutcome::NoPanel);
     }
 
+    bool isAnswered = true; ///< else requests stay in the queue
     std::unique_ptr<vorlinmodel::ProtocolThread> real;
 };
 
@@ -103,7 +107,10 @@ class tst_ui_main_upgrade : public QObject
         mpContext->real = std::make_unique<vorlinmodel::ProtocolThread>(mpContext->store);
         QVERIFY(mpContext->real->Init());
         open();
-        mpDialog->setBackup([](const std::atomic<bool> &) { return "backup/of/today"_s; });
+        mpDialog->setBackup([](const HIDUpgradeDialog::BackedUp &done) {
+            done({"backup/of/today"_s, {}});
+            return QString();
+        });
         mpContext->real->start();
     }
 
@@ -216,7 +223,7 @@ private slots:
     {
         const auto [size, text] = RefusedTable::current();
         open();
-        mpDialog->setBackup([](const std::atomic<bool> &) { return QString(); }); // is not asked
+        mpDialog->setBackup([](const HIDUpgradeDialog::BackedUp &) { return "is not asked"_s; });
         choose("x");
         if (size < 0)
             QFile::remove("fw.xft"_s);
@@ -227,10 +234,32 @@ private slots:
         QCOMPARE(asked(), 0);
     }
 
+    /// The largest that is sent in practice; a file that changes while the panel is waited for is examined
+    /// anew.
+    void nineMebibytes()
+    {
+        constexpr int blocks = (9 * 1024 * 1024 + 6 + 56) / 57;
+        openWithPanel({});
+        fakeHid().setPresent(false);
+        choose("small");
+        click("upgradeButton");
+        QTRY_VERIFY(mpLog->count("onSlotTimerUpdateOut") > 1);
+        QString error;
+        QVERIFY(vorlinmodel::writeWholeFile("fw.xft"_s, QByteArray(9 * 1024 * 1024, 'f'), error));
+        QTRY_COMPARE(child<QLabel>("fileInfo")->text().section(u',', 0, 2), "9,437,184 bytes"_s);
+        fakeHid().setPresent(true);
+        QTRY_VERIFY2_WITH_TIMEOUT(state().contains("The upgrade is done"_s), qPrintable(state()), 100'000);
+        QCOMPARE(child<QProgressBar>("progressBar")->value(), blocks);
+        QCOMPARE(mpPanel->state().firmware.size(), 9 * 1024 * 1024);
+    }
+
     void withoutABackupOnlyOnRequest()
     {
         open();
-        mpDialog->setBackup([](const std::atomic<bool> &) { return QString(); });
+        mpDialog->setBackup([](const HIDUpgradeDialog::BackedUp &done) {
+            done({{}, texts({"The disk is full."})});
+            return QString();
+        });
         choose("x");
         mAnswer = QMessageBox::No;
         click("upgradeButton");
@@ -248,6 +277,11 @@ private slots:
         click("upgradeButton");
         QTRY_VERIFY(asked() > 3);
         QCOMPARE(mpContext->requests.first(), "10: , fw.xft"_s);
+        mpContext->isAnswered = false; // behind a long transfer, say: requests do not pile up
+        QTest::qWait(3 * HIDUpgradeDialog::RetryPeriod);
+        const int waiting = asked();
+        QTest::qWait(3 * HIDUpgradeDialog::RetryPeriod);
+        QCOMPARE(asked(), waiting);
         emit mpContext->thread.sigSendUpdateAvailable(-1);
         mpContext->thread.upgrading = true;
         const int ticks = mpLog->count("onSlotTimerUpdateOut");

@@ -61,6 +61,7 @@ public:
     void setHomeLayout(int layoutId);
 
     /// The file was replaced as a whole: the panel is told of the layouts @p changed.
+    void savePending() { mPending.save(); } ///< see PendingLayouts::saveWhole()
     void replaced(const QVector<int> &changed);
 
     // What the panel sent:

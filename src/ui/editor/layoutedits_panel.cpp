@@ -105,6 +105,7 @@ void LayoutEdits::sendPending()
 void LayoutEdits::replaced(const QVector<int> &changed)
 {
     linkLost(); // what the panel has sent so far is no reason to remove one of the new layouts
+    savePending();
     for (const int layoutId : changed)
         post(layoutId);
     emit sigLayoutsChanged();

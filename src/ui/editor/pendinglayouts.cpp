@@ -16,6 +16,14 @@ QString fileName()
     return vorlindesk::Paths::devConfigFolder() + QStringLiteral("/pendingLayouts.ini");
 }
 
+void write(const std::set<int> &layouts)
+{
+    QStringList ids;
+    for (const int id : layouts)
+        ids.append(QString::number(id));
+    vorlindesk::IniFile(fileName())->setValue(Key, ids.join(QLatin1Char(' ')));
+}
+
 } // namespace
 
 PendingLayouts::PendingLayouts()
@@ -55,10 +63,15 @@ void PendingLayouts::done(int layoutId, bool taken)
 
 void PendingLayouts::save() const
 {
-    if (mUnsent.empty() && !QFile::exists(fileName()))
-        return;
-    QStringList ids;
-    for (const int id : mUnsent)
-        ids.append(QString::number(id));
-    vorlindesk::IniFile(fileName())->setValue(Key, ids.join(QLatin1Char(' ')));
+    if (!mUnsent.empty() || QFile::exists(fileName()))
+        write(mUnsent);
+}
+
+void PendingLayouts::saveWhole(const QVector<int> &ids)
+{
+    std::set<int> all(ids.cbegin(), ids.cend());
+    const PendingLayouts known; // what the file says
+    all.insert(known.mUnsent.begin(), known.mUnsent.end());
+    if (!all.empty())
+        write(all);
 }

@@ -19,9 +19,12 @@ public:
     /// A request of the layout has ended. A later one that is under way has yet to bring the layout of now.
     void done(int layoutId, bool taken);
 
-private:
-    void save() const;
+    /// Writes down, before a restore, that the panel may lack any of @p ids: a kill within it would else
+    /// leave the panel's layouts to win. Any thread.
+    static void saveWhole(const QVector<int> &ids);
+    void save() const; ///< what is pending as far as known here
 
+private:
     std::set<int> mUnsent;
     std::map<int, int> mUnderWay; ///< requests in the queue, by layout
 };

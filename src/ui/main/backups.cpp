@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QPointer>
 
 using vorlinmodel::BackupReason;
 using vorlinmodel::BackupWatch;
@@ -51,6 +52,7 @@ Backups::Backups(EditorContext &context, QObject *parent)
     , mImport(context, mWork)
 {
     mContext.edits.store().setProfileDirectory(mChosen);
+    mContext.edits.store().setExportDirectory(mChosen);
     mIdleTimer.setObjectName(QStringLiteral("idleTimer"));
     mIdleTimer.setInterval(IdleCheck);
     connect(&mIdleTimer, &QTimer::timeout, this, &Backups::tryAutomatic);
@@ -59,6 +61,7 @@ Backups::Backups(EditorContext &context, QObject *parent)
         emit sigActivity();
     });
     connect(&mWork, &BackupWork::sigIdle, this, &Backups::onIdle);
+    mImport.setObstacle([this] { return obstacle(); });
     connect(&mImport, &ConfigurationImport::sigReplacing, this, [this](bool on) {
         emit sigReplacing(on);
         emit sigActivity();
@@ -119,6 +122,8 @@ QString Backups::obstacle() const
         return tr("Something else is still under way.");
     if (mReading)
         return tr("The panel is being read.");
+    if (mClearing)
+        return tr("The panel is being cleared.");
     if (thread && thread->isUpgrading())
         return tr("The firmware is being updated.");
     if (mContext.videos.isBusy())
@@ -162,14 +167,31 @@ BackupWork::Task Backups::holding(BackupWork::Task task)
 
 void Backups::create(const QString &name)
 {
+    if (obstacle().isEmpty())
+        create(BackupReason::Person, name, [this](const auto &result) { emit sigCreated(result); });
+}
+
+/// What is done may ask the person, so it comes when this task is all over.
+bool Backups::createSafety(QObject *guard, Done done)
+{
     if (!obstacle().isEmpty())
-        return;
+        return false;
+    create(BackupReason::Safety, {},
+           [guard = QPointer<QObject>(guard), done = std::move(done)](const auto &result) {
+               if (guard)
+                   QTimer::singleShot(0, guard, [done, result] { done(result); });
+           });
+    return true;
+}
+
+void Backups::create(BackupReason reason, const QString &name, Done done)
+{
     mContext.edits.flush();
     const IFunctionManager &store = mContext.edits.store();
-    begin(Activity::Creating, holding([this, chosen = mChosen, name, &store](const BackupWatch &watch) {
-              const auto result = Profiles::create(usable(chosen), store, BackupReason::Person, name, watch);
-              return [this, result] {
-                  emit sigCreated(result);
+    begin(Activity::Creating, holding([=, this, chosen = mChosen, &store](const BackupWatch &watch) {
+              const auto result = Profiles::create(usable(chosen), store, reason, name, watch);
+              return [this, done, result] {
+                  done(result);
                   list();
               };
           }));
@@ -244,6 +266,12 @@ void Backups::setReading(bool reading)
     emit sigActivity();
 }
 
+void Backups::setClearing(bool clearing)
+{
+    if (std::exchange(mClearing, clearing) != clearing)
+        emit sigActivity();
+}
+
 void Backups::onIdle()
 {
     mPercent = 0;
@@ -253,12 +281,13 @@ void Backups::onIdle()
 void Backups::startAutomatic()
 {
     if (!std::exchange(mHasStarted, true))
-        mIdleTimer.start();
+        mIdleTimer.start(FirstLook);
 }
 
 /// Keys that could not be loaded are no state to keep.
 void Backups::tryAutomatic()
 {
+    mIdleTimer.setInterval(IdleCheck);
     if (!obstacle().isEmpty() || mWork.isBusy() || !mContext.edits.isLoaded())
         return;
     mIdleTimer.stop();

@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QTimer>
 #include <QVector>
+#include <functional>
 #include <memory>
 
 struct EditorContext;
@@ -38,6 +39,10 @@ public:
     const QVector<vorlinmodel::BackupInfo> &backups() const { return mBackups; }
 
     void create(const QString &name);
+    /// Before something that clears or replaces what is there. @p done follows on this thread, unless
+    /// @p guard has gone by then. @return false when nothing can be begun now: see obstacle().
+    using Done = std::function<void(const vorlinmodel::Profiles::BackupResult &result)>;
+    bool createSafety(QObject *guard, Done done);
     void remove(const QString &folder);
     void open(const QString &folder); ///< to be looked at; sigOpened follows
     void import(const ConfigurationImport::Content &content, bool takesTheRest, bool toPanel);
@@ -52,6 +57,7 @@ public:
 
     void setConnected(bool connected);
     void setReading(bool reading);
+    void setClearing(bool clearing); ///< the panel, and perhaps this computer
     /// The files or the store must not be changed by others: the panel is not to be read.
     bool isHolding() const { return mHolds > 0 || mImport.isReplacing(); }
 
@@ -60,6 +66,7 @@ public:
     void startAutomatic();
     void finish(); ///< the end of the program: gives up what is under way, and waits for it
 
+    static constexpr int FirstLook = 1000; ///< ms behind the start: before the panel is read
     static constexpr int IdleCheck = 5000; ///< ms between two looks whether nothing else is going on
 
 signals:
@@ -78,6 +85,7 @@ signals:
 private:
     void begin(Activity activity, BackupWork::Task task);
     BackupWork::Task holding(BackupWork::Task task);
+    void create(vorlinmodel::BackupReason reason, const QString &name, Done done);
     void onIdle();
     void tryAutomatic();
 
@@ -89,6 +97,7 @@ private:
     int mPercent = 0;
     bool mConnected = false;
     bool mReading = false;
+    bool mClearing = false;
     int mHolds = 0; ///< tasks that hold back the saving
     bool mHasStarted = false;
     bool mHasReadPanel = false;

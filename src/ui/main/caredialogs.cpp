@@ -1,10 +1,9 @@
 #include "caredialogs.h"
 
+#include "backups.h"
 #include "base/iframeworkcontext.h"
 #include "base/log.h"
 #include "logtext.h"
-#include "model/ifunctionmanager.h"
-#include "model/profiles.h"
 #include "networkdialog.h"
 #include "ui_editor/editorcontext.h"
 #include "upgradedialog.h"
@@ -26,28 +25,32 @@ QDialog *show(Dialog *pDialog)
     return pDialog;
 }
 
-QDialog *showUpgrade(EditorContext &context, QWidget *pParent, HIDUpgradeDialog::Mode mode)
+QDialog *showUpgrade(EditorContext &context, Backups &backups, QWidget *pParent, HIDUpgradeDialog::Mode mode)
 {
     auto *dialog = new HIDUpgradeDialog(context.framework, pParent->window(), mode);
-    const vorlinmodel::IFunctionManager &store = context.edits.store();
-    dialog->setBackup([&store, directory = store.getProfileDirectory()](const std::atomic<bool> &cancelled) {
-        using namespace vorlinmodel;
-        const BackupWatch watch({}, &cancelled);
-        return Profiles::create(directory, store, BackupReason::Safety, {}, watch).folder;
+    dialog->setBackup([&backups, dialog](HIDUpgradeDialog::BackedUp done) {
+        const QString obstacle = backups.obstacle();
+        const bool begun = backups.createSafety(dialog, [done](const auto &result) {
+            QStringList lacks = result.leftOut;
+            if (!result.error.isEmpty())
+                lacks.prepend(result.error);
+            done({result.folder, lacks});
+        });
+        return begun ? QString() : obstacle;
     });
     return show(dialog);
 }
 
 } // namespace
 
-QDialog *CareDialogs::openFirmwareUpdate(EditorContext &context, QWidget *pParent)
+QDialog *CareDialogs::openFirmwareUpdate(EditorContext &context, Backups &backups, QWidget *pParent)
 {
-    return showUpgrade(context, pParent, HIDUpgradeDialog::Mode::Firmware);
+    return showUpgrade(context, backups, pParent, HIDUpgradeDialog::Mode::Firmware);
 }
 
-QDialog *CareDialogs::openFontLibrary(EditorContext &context, QWidget *pParent)
+QDialog *CareDialogs::openFontLibrary(EditorContext &context, Backups &backups, QWidget *pParent)
 {
-    return showUpgrade(context, pParent, HIDUpgradeDialog::Mode::FontFile);
+    return showUpgrade(context, backups, pParent, HIDUpgradeDialog::Mode::FontFile);
 }
 
 QDialog *CareDialogs::openNetworkSettings(EditorContext &context, QWidget *pParent)

@@ -1,6 +1,7 @@
 /// The dialogs for the care of the panel, opened from the settings page.
 #pragma once
 
+class Backups;
 class QDialog;
 class QWidget;
 struct EditorContext;
@@ -10,8 +11,9 @@ struct EditorContext;
 namespace CareDialogs {
 
 /// Before the transfer, the configuration is saved as a safety backup.
-QDialog *openFirmwareUpdate(EditorContext &context, QWidget *pParent);
-QDialog *openFontLibrary(EditorContext &context, QWidget *pParent); ///< the same for a font file
+QDialog *openFirmwareUpdate(EditorContext &context, Backups &backups, QWidget *pParent);
+/// The same for a font file.
+QDialog *openFontLibrary(EditorContext &context, Backups &backups, QWidget *pParent);
 QDialog *openNetworkSettings(EditorContext &context, QWidget *pParent);
 
 } // namespace CareDialogs

@@ -9,8 +9,11 @@
 #include "restorecommand.h"
 #include "scripttransfer.h"
 #include "ui_editor/editorcontext.h"
+#include "ui_editor/pendinglayouts.h"
 
+#include <QRegularExpression>
 #include <QSet>
+#include <QTimer>
 #include <future>
 
 using vorlinmodel::BackupContent;
@@ -48,6 +51,19 @@ QVector<key_id_t> keysOf(const vorlinmodel::Script &script)
             keys.append({record.layoutId, record.pageId, record.keyId});
     }
     return keys;
+}
+
+/// Numbers of its custom layouts.
+QVector<int> layoutsOf(const BackupContent &content)
+{
+    static const QRegularExpression group(QStringLiteral("^\\[layout_(\\d{1,3})\\]"),
+                                          QRegularExpression::MultilineOption);
+    QVector<int> ids;
+    auto match =
+        group.globalMatch(QString::fromUtf8(content.files.value(QStringLiteral("customLayout.ini"))));
+    while (match.hasNext())
+        ids.append(match.next().captured(1).toInt());
+    return ids;
 }
 
 } // namespace
@@ -95,8 +111,27 @@ void ConfigurationImport::start(const Content &content, const RestoreOptions &op
 }
 
 /// A step that cannot be taken leaves the history where it was.
+void ConfigurationImport::takeBack(const std::shared_ptr<RestoreStep> &step, bool forward,
+                                   const QString &problem)
+{
+    step->isTakenBack = true;
+    QUndoStack &history = mContext.edits.history();
+    forward ? history.undo() : history.redo();
+    if (problem.isEmpty())
+        return;
+    const QString text =
+        forward ? tr("The import could not be made again: %1") : tr("The import could not be taken back: %1");
+    emit mContext.edits.sigProblem(text.arg(problem));
+}
+
+/// Called by the history, which cannot be walked back before that returns.
 void ConfigurationImport::walk(const std::shared_ptr<RestoreStep> &step, bool forward)
 {
+    const QString obstacle = mObstacle ? mObstacle() : QString();
+    if (!obstacle.isEmpty()) {
+        QTimer::singleShot(0, this, [=, this] { takeBack(step, forward, obstacle); });
+        return;
+    }
     const auto load = [folder = step->folder](const BackupWatch &watch) -> Content {
         auto content = vorlinmodel::loadBackup(folder, watch);
         return content ? std::make_shared<const BackupContent>(std::move(*content)) : nullptr;
@@ -106,14 +141,7 @@ void ConfigurationImport::walk(const std::shared_ptr<RestoreStep> &step, bool fo
             step->folder = result.safetyFolder;
             return;
         }
-        step->isTakenBack = true;
-        QUndoStack &history = mContext.edits.history();
-        forward ? history.undo() : history.redo();
-        if (result.isCancelled)
-            return;
-        const QString text = forward ? tr("The import could not be made again: %1")
-                                     : tr("The import could not be taken back: %1");
-        emit mContext.edits.sigProblem(text.arg(result.error));
+        takeBack(step, forward, result.isCancelled ? QString() : result.error);
     };
     replace(load, {.safetyDirectory = mSafetyDirectory, .takesTheRest = false}, false, finish);
 }
@@ -123,6 +151,7 @@ void ConfigurationImport::replace(const Load &load, const RestoreOptions &option
 {
     const auto saved = mContext.edits.beginReplace();
     const QVector<key_id_t> pending = mContext.edits.pending().keys();
+    mContext.layouts.linkLost(); // what the panel has sent so far belongs to the configuration that goes
     mReplacing = true;
     emit sigReplacing(true);
     IFunctionManager &store = mContext.edits.store();
@@ -135,6 +164,7 @@ void ConfigurationImport::replace(const Load &load, const RestoreOptions &option
         if (content) {
             // A kill behind the exchange leaves the panel with keys of before: noted beforehand.
             PendingEdits::saveWhole(before.keys.keys().toVector() + pending + keysOf(content->script));
+            PendingLayouts::saveWhole(before.layouts.keys().toVector() + layoutsOf(*content));
             outcome.result = restoreBackup(*content, store, options, watch.part(LoadPart, 100));
         }
         if (outcome.result.isDone) {
@@ -154,8 +184,10 @@ void ConfigurationImport::replace(const Load &load, const RestoreOptions &option
 
 void ConfigurationImport::take(const Outcome &outcome, bool toPanel)
 {
-    if (!outcome.result.isDone)
+    if (!outcome.result.isDone) {
+        mContext.layouts.savePending();
         return mContext.edits.endReplace({}, false);
+    }
     const bool asScript = toPanel && mConnected;
     mContext.layouts.replaced(outcome.layouts); // a panel has to know a layout before its keys
     mContext.edits.endReplace(outcome.keys, mConnected && !asScript);

@@ -39,6 +39,8 @@ public:
     bool isSending() const;                         ///< the whole configuration, to the panel
     void cancelSending();
     void setConnected(bool connected) { mConnected = connected; }
+    /// Says why an undo or redo cannot be carried out now, for the person; empty when it can.
+    void setObstacle(std::function<QString()> obstacle) { mObstacle = std::move(obstacle); }
 
 signals:
     void sigReplacing(bool on);
@@ -55,6 +57,7 @@ private:
     using Finish = std::function<void(const vorlinmodel::RestoreResult &result)>;
 
     void walk(const std::shared_ptr<RestoreStep> &step, bool forward);
+    void takeBack(const std::shared_ptr<RestoreStep> &step, bool forward, const QString &problem);
     void replace(const Load &load, const vorlinmodel::RestoreOptions &options, bool toPanel,
                  const Finish &finish);
     void take(const Outcome &outcome, bool toPanel);
@@ -64,6 +67,7 @@ private:
     EditorContext &mContext;
     BackupWork &mWork;
     ScriptTransfer *mpTransfer;
+    std::function<QString()> mObstacle;
     QString mSafetyDirectory;
     QVector<vorlinmodel::key_id_t> mCovered; ///< by the script that is sent
     bool mConnected = false;

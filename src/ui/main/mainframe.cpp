@@ -151,7 +151,7 @@ bool MainFrame::setupPictureUploadPage()
 
 bool MainFrame::setupSystemSettingsPage()
 {
-    mpSystemSettings = new SystemSettingsPage(mContext, mDesktop, this);
+    mpSystemSettings = new SystemSettingsPage(mContext, *mpBackups, mDesktop, this);
     if (!take(mpSystemSettings, LogText::SetupSystemSettingsError))
         return false;
     connect(mpSystemSettings, &SystemSettingsPage::sigHomeLayoutChosen, this, &MainFrame::chooseHomeLayout);

@@ -1,12 +1,12 @@
 #include "panelreset.h"
 
+#include "backups.h"
 #include "base/iframeworkcontext.h"
 #include "base/language.h"
 #include "base/log.h"
 #include "logtext.h"
 #include "model/customlayouts.h"
 #include "model/ifunctionmanager.h"
-#include "model/profiles.h"
 #include "protocol/iprotocolthread.h"
 #include "ui_common/messagebox.h"
 #include "ui_editor/editorcontext.h"
@@ -31,10 +31,12 @@ constexpr int MostLines = 8; // of what a backup lacks
 
 } // namespace
 
-PanelReset::PanelReset(EditorContext &context, QWidget *pWindow)
+PanelReset::PanelReset(EditorContext &context, Backups &backups, QWidget *pWindow)
     : mContext(context)
+    , mBackups(backups)
     , mpWindow(pWindow)
 {
+    connect(&backups, &Backups::sigActivity, this, &PanelReset::showProgress);
     if (IProtocolThread *thread = context.framework.protocolThread())
         connectProtocolThread(*thread);
     connect(&context.edits, &KeyEdits::sigReadEnded, this, [this] {
@@ -100,25 +102,18 @@ bool PanelReset::confirm() const
 
 void PanelReset::save()
 {
-    mContext.edits.flush();
     mPercent = 0;
-    setState(State::Saving);
-    const vorlinmodel::IFunctionManager &store = mContext.edits.store();
-    mTask.start([this, &store, directory = store.getProfileDirectory()](const std::atomic<bool> &cancelled) {
-        using namespace vorlinmodel;
-        const auto showProgress = [this, shown = -1](int percent) mutable {
-            if (std::exchange(shown, percent) == percent)
-                return;
-            mHandOver.post([this, percent] {
-                mPercent = percent;
-                emit sigChanged();
-            });
-        };
-        const Profiles::BackupResult backup = Profiles::create(directory, store, BackupReason::Safety, {},
-                                                               BackupWatch(showProgress, &cancelled));
-        const Saved saved{backup.folder, backup.error, backup.leftOut};
-        return LatestTask::Delivery([this, saved] { onSaved(saved); });
-    });
+    const QString obstacle = mBackups.obstacle();
+    if (mBackups.createSafety(this, [this](const Saved &saved) { onSaved(saved); }))
+        setState(State::Saving);
+    else
+        MessageBox::warn(mpWindow, obstacle);
+}
+
+void PanelReset::showProgress()
+{
+    if (mState == State::Saving && std::exchange(mPercent, mBackups.percent()) != mBackups.percent())
+        emit sigChanged();
 }
 
 void PanelReset::onSaved(const Saved &saved)
@@ -207,10 +202,11 @@ void PanelReset::finish()
 {
     setState(State::Idle);
     const vorlindesk::LanguageManager &language = *mContext.framework.languageManager();
-    QString text = mKind == Kind::Format
-                       ? language.Text(FormattedText)
-                       : tr("All data has been reset. “Undo” in the editor brings back what was on this "
-                            "computer, until the program ends.");
+    QString text = language.Text(FormattedText);
+    if (mKind == Kind::ResetAll)
+        text +=
+            QStringLiteral("\n\n") + tr("All data has been reset. “Undo” in the editor brings back what was "
+                                        "on this computer, until the program ends.");
     if (!mFolder.isEmpty())
         text += QStringLiteral("\n\n") + savedText();
     MessageBox::inform(mpWindow, title(), text);
@@ -239,5 +235,6 @@ QString PanelReset::statusText() const
 void PanelReset::setState(State state)
 {
     mState = state;
+    mBackups.setClearing(state == State::Sending || state == State::Reading);
     emit sigChanged();
 }

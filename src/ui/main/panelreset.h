@@ -2,12 +2,13 @@
 #pragma once
 
 #include "base/handover.h"
-#include "ui_common/latesttask.h"
+#include "model/profiles.h"
 
 #include <QObject>
 #include <QString>
 #include <QStringList>
 
+class Backups;
 class QWidget;
 struct EditorContext;
 
@@ -16,7 +17,7 @@ class IProtocolThread;
 enum class RequestOutcome;
 } // namespace vorlinmodel
 
-/// Asks, saves the configuration as a safety backup beside the window's thread, has the panel clear itself,
+/// Asks, saves the configuration as a safety backup, has the panel clear itself,
 /// and only then clears what is on this computer, as one step of the history. A step that fails leaves all
 /// that comes after it undone. User-interface thread only.
 class PanelReset : public QObject
@@ -30,7 +31,7 @@ public:
 
     /// @p context outlives this object, whose protocol thread has to end before it. @p pWindow: where boxes
     /// are shown.
-    PanelReset(EditorContext &context, QWidget *pWindow);
+    PanelReset(EditorContext &context, Backups &backups, QWidget *pWindow);
 
     void start(Kind kind);
     bool isBusy() const { return mState != State::Idle; }
@@ -42,18 +43,14 @@ signals:
 
 private:
     enum class State { Idle, Saving, Sending, Reading };
-    struct Saved
-    {
-        QString folder; ///< empty when there is none
-        QString error;
-        QStringList leftOut;
-    };
+    using Saved = vorlinmodel::Profiles::BackupResult;
 
     void connectProtocolThread(vorlinmodel::IProtocolThread &thread);
     bool isUpgrading() const;
     QString title() const;
     bool confirm() const;
     void save();
+    void showProgress();
     void onSaved(const Saved &saved);
     bool goOn(const Saved &saved) const;
     void send();
@@ -65,11 +62,11 @@ private:
     void setState(State state);
 
     EditorContext &mContext;
+    Backups &mBackups;
     QWidget *const mpWindow;
     Kind mKind = Kind::Format;
     State mState = State::Idle;
     int mPercent = 0;
     QString mFolder; ///< of the last backup
     vorlindesk::HandOver mHandOver;
-    LatestTask mTask; ///< last: its thread uses the others
 };

@@ -28,7 +28,8 @@ class SystemSettingsPage : public QFrame
 {
     Q_OBJECT
 public:
-    SystemSettingsPage(EditorContext &context, vorlindesk::IDesktop &desktop, QWidget *parent);
+    SystemSettingsPage(EditorContext &context, Backups &backups, vorlindesk::IDesktop &desktop,
+                       QWidget *parent);
 
     bool setup(); ///< @return false when it cannot be built
     /// Puts @p section between the care of the panel and the switches, as a group whose caption is the title
@@ -78,6 +79,7 @@ private:
     EditorContext &mContext;
     const vorlindesk::LanguageManager &mLanguage;
     vorlindesk::IDesktop &mDesktop;
+    Backups &mBackups;
     PanelReset mReset;
     QMap<int, QString> mDeviceValues;
     int mHomeLayout = 0;

@@ -33,12 +33,14 @@ constexpr char PageStyle[] = "#systemSettingsPage QLabel {background: transparen
 
 } // namespace
 
-SystemSettingsPage::SystemSettingsPage(EditorContext &context, vorlindesk::IDesktop &desktop, QWidget *parent)
+SystemSettingsPage::SystemSettingsPage(EditorContext &context, Backups &backups,
+                                       vorlindesk::IDesktop &desktop, QWidget *parent)
     : QFrame(parent)
     , mContext(context)
     , mLanguage(*context.framework.languageManager())
     , mDesktop(desktop)
-    , mReset(context, this)
+    , mBackups(backups)
+    , mReset(context, backups, this)
     , mpCaption(new QLabel(this))
 {
     setObjectName(QStringLiteral("systemSettingsPage"));
@@ -117,8 +119,10 @@ SettingsCard *SystemSettingsPage::panelCard()
 SettingsCard *SystemSettingsPage::careCard()
 {
     auto *card = new SettingsCard(this);
-    addActionRow(*card, "firmwareUpdate", 110, [this] { CareDialogs::openFirmwareUpdate(mContext, this); });
-    addActionRow(*card, "fontLibrary", 112, [this] { CareDialogs::openFontLibrary(mContext, this); });
+    addActionRow(*card, "firmwareUpdate", 110,
+                 [this] { CareDialogs::openFirmwareUpdate(mContext, mBackups, this); });
+    addActionRow(*card, "fontLibrary", 112,
+                 [this] { CareDialogs::openFontLibrary(mContext, mBackups, this); });
     addActionRow(*card, "networkSettings", 30, [this] { CareDialogs::openNetworkSettings(mContext, this); });
     return card;
 }

@@ -13,6 +13,7 @@
 #include "upgradetext.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -86,26 +87,20 @@ void HIDUpgradeDialog::onUpgradeButtonClicked()
         MessageBox::warn(this, tr("Choose the file first."));
     else if (mUpdateTimer.isActive())
         requestUpgrade(); // it is checked and backed up already
-    else if (!mpTask->isBusy())
+    else if (!mpTask->isBusy() && !mIsSaving)
         prepare(true);
 }
 
-/// Reads the file, and makes the backup when the upgrade is to follow, both beside the window's thread.
+/// Reads the file beside the window's thread.
 void HIDUpgradeDialog::prepare(bool toUpgrade)
 {
     setState(State::Checking);
-    const Backup backup = toUpgrade ? mBackup : Backup();
-    mpTask->start([this, toUpgrade, backup, path = mpFilePath->text()](const std::atomic<bool> &cancelled) {
-        Preparation preparation;
-        preparation.file = examineUpgradeFile(path);
-        if (backup && preparation.file.problem == UpgradeFile::Problem::None) {
-            preparation.backupFolder = backup(cancelled);
-            preparation.backedUp = !preparation.backupFolder.isEmpty();
-        }
-        return LatestTask::Delivery([this, toUpgrade, preparation] {
-            onChecked(preparation.file);
+    mpTask->start([this, toUpgrade, path = mpFilePath->text()](const std::atomic<bool> &) {
+        const UpgradeFile file = examineUpgradeFile(path);
+        return LatestTask::Delivery([this, toUpgrade, file] {
+            onChecked(file);
             if (toUpgrade)
-                onPrepared(preparation);
+                save();
         });
     });
 }
@@ -116,34 +111,69 @@ void HIDUpgradeDialog::onChecked(const UpgradeFile &file)
     setState(isUpgrading() ? State::Running : State::Idle);
 }
 
-void HIDUpgradeDialog::onPrepared(const Preparation &preparation)
+void HIDUpgradeDialog::save()
 {
     if (mFile.problem != UpgradeFile::Problem::None) {
         MessageBox::warn(this, problemText());
         return;
     }
-    if (!preparation.backedUp) {
+    mBackupFolder.clear();
+    if (!mBackup)
+        return startAsking();
+    mIsSaving = true;
+    setState(State::Checking);
+    const QString obstacle = mBackup([this](const BackupState &state) { onSaved(state); });
+    if (obstacle.isEmpty())
+        return;
+    mIsSaving = false;
+    setState(State::Idle);
+    MessageBox::warn(this, obstacle);
+}
+
+void HIDUpgradeDialog::onSaved(const BackupState &state)
+{
+    if (!std::exchange(mIsSaving, false)) // closed meanwhile
+        return;
+    setState(State::Idle);
+    const bool isWhole = !state.folder.isEmpty() && state.lacks.isEmpty();
+    if (!isWhole) {
         Log(LogLevel::Warn, UpgradeText::NoBackup);
-        if (!goOnWithoutBackup())
+        if (!goOn(state))
             return;
     }
-    mBackupFolder = preparation.backupFolder;
+    mBackupFolder = state.folder;
     if (!mBackupFolder.isEmpty()) {
         Log(LogLevel::Info, UpgradeText::Backup, qUtf8Printable(mBackupFolder));
         showLines({tr("The configuration was saved in %1").arg(QDir::toNativeSeparators(mBackupFolder))});
     }
+    startAsking();
+}
+
+void HIDUpgradeDialog::startAsking()
+{
     setState(State::Waiting);
     requestUpgrade();
 }
 
-bool HIDUpgradeDialog::goOnWithoutBackup()
+bool HIDUpgradeDialog::goOn(const BackupState &state)
 {
+    constexpr int mostLines = 8; // a question that fills the screen is not read
     MessageBox::Question question;
-    question.text = tr("The configuration could not be saved. Upgrade all the same?");
-    question.explanation = tr("What the panel holds may be lost if the upgrade fails.");
+    question.text = state.folder.isEmpty() ? tr("The configuration could not be saved. Upgrade all the same?")
+                                           : tr("The backup does not hold everything. Upgrade all the same?");
+    QStringList lines = state.lacks.mid(0, mostLines);
+    lines << tr("What the panel holds may be lost if the upgrade fails.");
+    question.explanation = lines.join(QLatin1Char('\n'));
     question.buttons = QMessageBox::Yes | QMessageBox::No;
     question.preset = QMessageBox::No;
     return MessageBox::question(this, question) == QMessageBox::Yes;
+}
+
+/// While the panel is waited for, which may take long.
+bool HIDUpgradeDialog::hasFileChanged() const
+{
+    const QFileInfo file(mpFilePath->text());
+    return file.size() != mFile.size || file.lastModified() != mFile.modified;
 }
 
 void HIDUpgradeDialog::requestUpgrade()
@@ -157,15 +187,23 @@ void HIDUpgradeDialog::requestUpgrade()
         mUpdateTimer.start();
         setState(mState);
     }
+    mIsAsked = mpThread != nullptr;
     mContext.sendRequest(RequestKind::MD_FUNCTION_CODE_UPGRADE, QString(), path);
 }
 
-/// Asks again and again, for as long as the dialog is open and the panel does not answer.
+/// Asks again and again, for as long as the dialog is open and the panel does not answer; behind a long
+/// transfer not before the last request had its turn.
 void HIDUpgradeDialog::onSlotTimerUpdateOut()
 {
     Log(LogLevel::Info, UpgradeText::TimerOut, mIsTimerUpdateFinished ? 1 : 0);
-    if (!mIsTimerUpdateFinished)
+    if (mIsTimerUpdateFinished || mIsAsked)
+        return;
+    if (hasFileChanged()) {
+        mUpdateTimer.stop();
+        prepare(true);
+    } else {
         requestUpgrade();
+    }
 }
 
 void HIDUpgradeDialog::onUpdateAvailable(int nResult)
@@ -231,6 +269,7 @@ void HIDUpgradeDialog::onEvent(const UpgradeEvent &event)
         onFinished(event.value);
         break;
     case UpgradeEvent::Done:
+        mIsAsked = false;
         onDone();
         break;
     }
@@ -243,7 +282,7 @@ void HIDUpgradeDialog::showLines(const QStringList &lines)
     QString text;
     for (const QString &line : lines) {
         if (isAboutABlock(line) && surplus-- > 0)
-            continue; // the log has it
+            continue; // the bar tells how far it is
         text += line.trimmed() + QLatin1Char('\n');
     }
     text.chop(1); // the area begins a line by itself
@@ -296,7 +335,8 @@ void HIDUpgradeDialog::reject()
     if (!confirmLeave(mContext, this))
         return;
     stopAsking();
-    mpTask->cancel(); // nothing follows a backup that is being made
+    mpTask->cancel();
+    mIsSaving = false; // nothing follows a backup that is being made
     if (mState == State::Checking || mState == State::Waiting)
         setState(State::Idle);
     QDialog::reject();

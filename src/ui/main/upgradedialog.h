@@ -32,9 +32,15 @@ class HIDUpgradeDialog : public QDialog
 public:
     /// What the file is for; decides on captions, and a font file is asked for only once.
     enum class Mode { Firmware, FontFile };
-    /// Saves the configuration. @return the folder, empty when it failed. Runs on a thread of its own, one
-    /// call at a time, and may take long, unless @p cancelled: the dialog's destruction waits for it.
-    using Backup = std::function<QString(const std::atomic<bool> &cancelled)>;
+    struct BackupState
+    {
+        QString folder;    ///< empty: there is none
+        QStringList lacks; ///< what the backup lacks, or why there is none; in plain words
+    };
+    using BackedUp = std::function<void(const BackupState &state)>;
+    /// Begins to save the configuration; @c done is to be called on the thread of the dialog, if that is
+    /// still there. @return why nothing can be saved now, for the person; empty when it was begun.
+    using Backup = std::function<QString(BackedUp done)>;
 
     static constexpr int RetryPeriod = 100; ///< ms between two requests to a panel that is not ready
     static constexpr int MaxLines = 20'000; ///< in the message area; the oldest go first
@@ -66,13 +72,6 @@ public slots:
 
 private:
     enum class State { Idle, Checking, Waiting, Running, Succeeded, Failed };
-    struct Preparation
-    {
-        UpgradeFile file;
-        bool backedUp = true; ///< or no backup was wanted
-        QString backupFolder;
-    };
-
     QWidget *fileRow();
     QWidget *serviceRow();
     QWidget *messageRow();
@@ -83,8 +82,11 @@ private:
     bool isUpgrading() const;
     void prepare(bool toUpgrade);
     void onChecked(const UpgradeFile &file);
-    void onPrepared(const Preparation &preparation);
-    bool goOnWithoutBackup();
+    void save();
+    void onSaved(const BackupState &state);
+    void startAsking();
+    bool goOn(const BackupState &state);
+    bool hasFileChanged() const;
     void requestUpgrade();
     void stopAsking();
     void onEvents(const std::vector<UpgradeEvent> &events);
@@ -108,6 +110,8 @@ private:
     State mState = State::Idle;
     bool mCrcFailed = false;
     UpgradeFile mFile;
+    bool mIsSaving = false;
+    bool mIsAsked = false; ///< a request of ours is in the queue, or is carried out
     QString mBackupFolder;
 
     QLabel *mpSendCaption = nullptr;

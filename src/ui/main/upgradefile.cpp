@@ -11,6 +11,7 @@ UpgradeFile examineUpgradeFile(const QString &path)
     const QFileInfo info(path);
     UpgradeFile file;
     file.size = info.size();
+    file.modified = info.lastModified();
     if (!info.exists())
         file.problem = Problem::Missing;
     else if (file.size > UpgradeFile::Largest)

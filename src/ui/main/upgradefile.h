@@ -3,6 +3,7 @@
 
 #include "wire/applicationmessage.h"
 
+#include <QDateTime>
 #include <QString>
 
 /// What is known about a file that was chosen.
@@ -14,9 +15,10 @@ struct UpgradeFile
     static constexpr int Largest = ApplicationMessage::MaxSize - ApplicationMessage::SubcodeDataOffset;
 
     Problem problem = Problem::None;
-    QString reason = {}; ///< of Unreadable, as the system gives it
-    qint64 size = 0;     ///< bytes
-    quint16 crc = 0;     ///< as the panel will sum it up
+    QString reason = {};     ///< of Unreadable, as the system gives it
+    qint64 size = 0;         ///< bytes
+    QDateTime modified = {}; ///< before it was read
+    quint16 crc = 0;         ///< as the panel will sum it up
 };
 
 /// Reads the whole of @p path: tens of milliseconds for the largest file, longer from a slow disk. Any

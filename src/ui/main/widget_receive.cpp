@@ -236,6 +236,10 @@ void Widget::onCustomLayoutReceived(const QByteArray &payload)
     const auto record = CustomLayoutRecord::decode(payload);
     if (!record)
         return;
+    if (mpMainFrame->backups().isHolding()) { // it came before, and took its time on the way
+        mReadWhenReleased = true;
+        return;
+    }
     mpEditor->layouts.takeFromPanel(*record);
     mpMainFrame->showDeviceValue(code(FunctionCode::MD_FUNCTION_CODE_CUSTOMLAYOUT_SET),
                                  record->title.simplified().left(longestTitle));
