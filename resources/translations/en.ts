@@ -372,7 +372,7 @@
     </message>
     <message>
         <source>The panel is being cleared.</source>
-        <translation type="unfinished">The panel is being cleared.</translation>
+        <translation>The panel is being cleared.</translation>
     </message>
 </context>
 <context>

@@ -372,7 +372,7 @@
     </message>
     <message>
         <source>The panel is being cleared.</source>
-        <translation type="unfinished">正在清除面板。</translation>
+        <translation>正在清除面板。</translation>
     </message>
 </context>
 <context>
