@@ -202,9 +202,10 @@ void BackupPanel::connectBackups()
     });
     connect(&mBackups, &Backups::sigImported, this, [this](const QString &name, const QStringList &leftOut) {
         QString text = tr("Imported: %1").arg(name);
-        if (!leftOut.isEmpty())
-            text += QLatin1Char('\n') + tr("Left out: %1").arg(leftOut.join(QStringLiteral("; ")));
-        say(text, !leftOut.isEmpty());
+        mLeftOut = leftOut.isEmpty() ? QString() : tr("Left out: %1").arg(leftOut.join(QStringLiteral("; ")));
+        if (!mLeftOut.isEmpty())
+            text += QLatin1Char('\n') + mLeftOut;
+        say(text, !mLeftOut.isEmpty());
         mBackups.list(); // with the safety backup
     });
     connect(&mBackups, &Backups::sigImportFailed, this, [this](const QString &reason) {
@@ -214,6 +215,9 @@ void BackupPanel::connectBackups()
             true);
     });
     connect(&mBackups, &Backups::sigSent, this, [this](const QString &problem) {
-        say(problem.isEmpty() ? tr("The panel has the whole configuration.") : problem, !problem.isEmpty());
+        QString text = problem.isEmpty() ? tr("The panel has the whole configuration.") : problem;
+        if (!mLeftOut.isEmpty()) // nobody has read it yet
+            text += QLatin1Char('\n') + mLeftOut;
+        say(text, !problem.isEmpty() || !mLeftOut.isEmpty());
     });
 }

@@ -56,6 +56,7 @@ private:
     vorlindesk::IDesktop &mDesktop;
     bool mToPanel = false; ///< what the preview that is opened is for
     QString mAwaited;      ///< folder that becomes the chosen one when it is listed
+    QString mLeftOut;      ///< of the last import
     QLabel *mpCaption;
     QLabel *mpFolder;
     QPushButton *mpChoose = nullptr;

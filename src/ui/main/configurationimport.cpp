@@ -178,6 +178,8 @@ void ConfigurationImport::replace(const Load &load, const RestoreOptions &option
             finish(outcome.result);
             mReplacing = false;
             emit sigReplacing(false);
+            if (toPanel && outcome.result.isDone && !isSending())
+                emit sigSent(notTaken());
         };
     });
 }
@@ -197,6 +199,12 @@ void ConfigurationImport::take(const Outcome &outcome, bool toPanel)
     if (const int stored = vorlindesk::SystemSettings::language(); stored != language.language())
         language.setLanguage(stored);
     emit sigReplaced();
+}
+
+QString ConfigurationImport::notTaken()
+{
+    return tr(
+        "The panel has not taken the configuration. It gets what differs when it is connected next time.");
 }
 
 void ConfigurationImport::sendScript(const Outcome &outcome)
@@ -225,9 +233,7 @@ void ConfigurationImport::onScriptSent(RequestOutcome outcome)
         break;
     case RequestOutcome::NoPanel:
     case RequestOutcome::Failed:
-        problem =
-            tr("The panel has not taken the configuration. It gets what differs when it is connected next "
-               "time.");
+        problem = notTaken();
         break;
     }
     emit sigSent(problem);

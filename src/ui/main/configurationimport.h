@@ -61,6 +61,7 @@ private:
     void replace(const Load &load, const vorlinmodel::RestoreOptions &options, bool toPanel,
                  const Finish &finish);
     void take(const Outcome &outcome, bool toPanel);
+    static QString notTaken();
     void sendScript(const Outcome &outcome);
     void onScriptSent(vorlinmodel::RequestOutcome outcome);
 
