@@ -62,11 +62,21 @@ private slots:
         ThreadFixture fixture;
         answerUpgrade(3, crc);
         upgrade(fixture, "123456789");
-        fixture.post(MD_FUNCTION_CODE_SELECT_PAGE, 1, 1); // is dropped
+        fixture.post(MD_FUNCTION_CODE_SELECT_PAGE, 1, 1); // is dropped, which is told
+        std::vector<std::pair<quint32, vorlinmodel::RequestOutcome>> done;
+        QObject::connect(
+            &fixture.thread, &vorlinmodel::ProtocolThread::sigRequestDone, &fixture.thread,
+            [&done](const vorlinmodel::Request &request, vorlinmodel::RequestOutcome outcome) {
+                done.emplace_back(request.functionCode, outcome);
+            },
+            Qt::DirectConnection);
         fixture.thread.start();
         QTRY_COMPARE(fixture.events("finished"), texts({"finished 1"}));
         QTRY_VERIFY(!fixture.thread.isUpgrading());
         fixture.thread.stop();
+        QCOMPARE(done.size(), 2U);
+        QVERIFY(done.front() ==
+                std::make_pair(quint32(MD_FUNCTION_CODE_SELECT_PAGE), vorlinmodel::RequestOutcome::NoPanel));
         QCOMPARE(fixture.events(),
                  LinesToTheCrc + crcLines +
                      texts({"log upgrade success", "log please wait for device restart!", "finished 1"}));
