@@ -236,21 +236,28 @@ private slots:
 
     /// The largest that is sent in practice; a file that changes while the panel is waited for is examined
     /// anew.
-    void nineMebibytes()
+    void aLargeFileThatChangesMeanwhile()
     {
-        constexpr int blocks = (9 * 1024 * 1024 + 6 + 56) / 57;
+#ifdef __SANITIZE_THREAD__
+        // So many events of both threads drive the beginning out of the checker's memory: it then reports the
+        // list of events, which the library guards, and cannot tell who wrote to it.
+        constexpr int size = 90 * 1024;
+#else
+        constexpr int size = 9 * 1024 * 1024;
+#endif
+        constexpr int blocks = (size + 6 + 56) / 57;
         openWithPanel({});
         fakeHid().setPresent(false);
         choose("small");
         click("upgradeButton");
         QTRY_VERIFY(mpLog->count("onSlotTimerUpdateOut") > 1);
         QString error;
-        QVERIFY(vorlinmodel::writeWholeFile("fw.xft"_s, QByteArray(9 * 1024 * 1024, 'f'), error));
-        QTRY_COMPARE(child<QLabel>("fileInfo")->text().section(u',', 0, 2), "9,437,184 bytes"_s);
+        QVERIFY(vorlinmodel::writeWholeFile("fw.xft"_s, QByteArray(size, 'f'), error));
+        QTRY_VERIFY(child<QLabel>("fileInfo")->text().startsWith(QLocale(QLocale::English).toString(size)));
         fakeHid().setPresent(true);
         QTRY_VERIFY2_WITH_TIMEOUT(state().contains("The upgrade is done"_s), qPrintable(state()), 100'000);
         QCOMPARE(child<QProgressBar>("progressBar")->value(), blocks);
-        QCOMPARE(mpPanel->state().firmware.size(), 9 * 1024 * 1024);
+        QCOMPARE(mpPanel->state().firmware.size(), size);
     }
 
     void withoutABackupOnlyOnRequest()
