@@ -6,6 +6,7 @@
 #include "ui_editor/galleryindex.h"
 #include "ui_editor/gallerypictures.h"
 #include "ui_editor/galleryview.h"
+#include "watchdog.h"
 
 #include <QApplication>
 #include <QDir>
@@ -63,32 +64,6 @@ bool makeFiles()
     return int(GalleryIndex().read().size()) == Items; // which writes the list
 }
 
-/// Notes the longest time between two turns of the event loop.
-class Watchdog
-{
-public:
-    Watchdog()
-    {
-        QObject::connect(&mTimer, &QTimer::timeout, [this] {
-            const auto now = Clock::now();
-            mLongest = std::max(mLongest, Milliseconds(now - mLast).count());
-            mLast = now;
-        });
-        mTimer.start(0);
-    }
-    void restart()
-    {
-        mLast = Clock::now();
-        mLongest = 0;
-    }
-    double longest() const { return mLongest; }
-
-private:
-    QTimer mTimer;
-    Clock::time_point mLast = Clock::now();
-    double mLongest = 0;
-};
-
 /// Notes when the view was painted with all its items for the first time.
 class FirstPaint : public QObject
 {
@@ -123,12 +98,12 @@ void scrollThrough(GalleryView &view, Watchdog &watchdog, const char *what)
     QScrollBar *bar = view.verticalScrollBar();
     bar->setValue(0);
     runFor(200);
-    watchdog.restart();
+    watchdog.start();
     for (int step = 1; step <= ScrollSteps; ++step) {
         bar->setValue(bar->maximum() * step / ScrollSteps);
         runFor(ScrollPause);
     }
-    std::printf("%s: longest block of the event loop %.1f ms\n", what, watchdog.longest());
+    std::printf("%s: longest block of the event loop %.1f ms\n", what, watchdog.stop());
 }
 
 int measure()
@@ -137,7 +112,7 @@ int measure()
     const vorlindesk::LanguageManager language(&translator);
     Watchdog watchdog;
     runFor(200);
-    watchdog.restart();
+    watchdog.start();
     const auto start = Clock::now();
     GalleryFrame frame(language, nullptr);
     if (!frame.setup())
@@ -150,7 +125,7 @@ int measure()
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     std::printf("opening a gallery of %d items, to the first paint: %.1f ms\n", Items,
                 Milliseconds(Clock::now() - start).count());
-    std::printf("opening: longest block of the event loop %.1f ms\n", watchdog.longest());
+    std::printf("opening: longest block of the event loop %.1f ms\n", watchdog.stop());
     scrollThrough(*view, watchdog, "scrolling through, thumbnails not made yet");
     scrollThrough(*view, watchdog, "scrolling through again");
     return 0;

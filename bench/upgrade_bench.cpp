@@ -9,6 +9,7 @@
 #include "transport/hiddevicelist.h"
 #include "ui_common/filedialog.h"
 #include "ui_main/upgradedialog.h"
+#include "waitfor.h"
 #include "watchdog.h"
 #include "wire/reportframe.h"
 
@@ -43,10 +44,7 @@ double processorSeconds()
 template <typename Condition>
 bool waitFor(Condition condition)
 {
-    const auto limit = Clock::now() + Patience;
-    while (!condition() && Clock::now() < limit)
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-    return condition();
+    return ::waitFor(condition, Patience);
 }
 
 /// A virtual panel that takes a report every @p interval microseconds.

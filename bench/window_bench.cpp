@@ -10,6 +10,7 @@
 #include "model/ifunctionmanager.h"
 #include "panel_link/panelserver.h"
 #include "protocol/iprotocolthread.h"
+#include "waitfor.h"
 #include "watchdog.h"
 
 #include <QApplication>
@@ -44,10 +45,7 @@ void report(Watchdog &watchdog, const char *what)
 template <typename Condition>
 bool waitFor(Condition condition)
 {
-    const auto limit = Clock::now() + Patience;
-    while (!condition() && Clock::now() < limit)
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-    return condition();
+    return ::waitFor(condition, Patience);
 }
 
 bool runTool(const QStringList &arguments)
