@@ -81,7 +81,8 @@ QSize keyPixelSize(quint32 mask)
     return {cells.width() * PhysicalKeyWidth, cells.height() * PhysicalKeyHeight};
 }
 
-std::optional<QByteArray> encodedKeyPicture(const IFunctionManager &store, const key_id_t &key)
+std::optional<QByteArray> encodedKeyPicture(const IFunctionManager &store, const key_id_t &key,
+                                            const QSize &size)
 {
     const QString path = store.getDisplayImage(key);
     if (path.isEmpty())
@@ -90,7 +91,7 @@ std::optional<QByteArray> encodedKeyPicture(const IFunctionManager &store, const
     const QImage image = readLimited(reader, MaxOwnSide);
     if (image.isNull())
         return std::nullopt;
-    const QImage scaled = image.scaled(keyPixelSize(key), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QImage scaled = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     QByteArray bytes;
     QBuffer buffer(&bytes);
     if (!buffer.open(QIODevice::WriteOnly) || !withoutAlpha(scaled).save(&buffer, "PNG"))

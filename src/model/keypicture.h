@@ -21,8 +21,10 @@ QSize keyPixelSize(const key_id_t &key);
 /// The same for a key that covers the physical keys of @p mask (bit p - 1 for each); 0 counts as one key.
 QSize keyPixelSize(quint32 mask);
 
-/// The key's display image (files and resources) as PNG at keyPixelSize(); nothing when there is no picture.
-std::optional<QByteArray> encodedKeyPicture(const IFunctionManager &store, const key_id_t &key);
+/// The key's display image (files and resources) as PNG of @p size; nothing when there is no picture. The
+/// size is the caller's, since keyPixelSize() may give another one a moment later.
+std::optional<QByteArray> encodedKeyPicture(const IFunctionManager &store, const key_id_t &key,
+                                            const QSize &size);
 
 /// Decodes a picture from foreign bytes, with limits: at most 4096 x 4096 pixels. Null when it is none.
 QImage decodePicture(const QByteArray &bytes);

@@ -135,7 +135,7 @@ private:
             extra.picture = file;
             return;
         }
-        extra.picture = encodedKeyPicture(mStore, key).value_or(QByteArray());
+        extra.picture = encodedKeyPicture(mStore, key, keyPixelSize(key)).value_or(QByteArray());
         mFileBytes += extra.picture.size();
         extra.pictureFile = file;
         if (extra.customImage && !isFile)

@@ -2,11 +2,21 @@
 
 #include <QFile>
 #include <QSaveFile>
+#include <QThread>
 #include <algorithm>
 
 namespace vorlinmodel {
 
 namespace {
+
+// Windows does not replace a file that somebody has open, as virus scanners do for a moment with every new
+// one.
+#ifdef Q_OS_WIN
+constexpr int ReplaceTries = 5;
+#else
+constexpr int ReplaceTries = 1;
+#endif
+constexpr int ReplacePause = 10; // ms
 
 /// In pieces, since QFile::read() takes as much memory as it is allowed to; and an endless device has no
 /// size.
@@ -47,12 +57,20 @@ std::optional<QByteArray> readWholeFile(const QString &path, QString &error, qin
 
 bool writeWholeFile(const QString &path, const QByteArray &bytes, QString &error)
 {
-    QSaveFile file(path);
-    // Flushed here, since commit() does not notice when the rest of the buffer finds a full disk: it would
-    // put what little was written in place of the old file.
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit())
-        return true;
-    error = file.errorString();
+    for (int tries = ReplaceTries; tries > 0; --tries) {
+        QSaveFile file(path);
+        // Flushed here, since commit() does not notice when the rest of the buffer finds a full disk: it
+        // would put what little was written in place of the old file.
+        const bool isWritten =
+            file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+        if (isWritten && file.commit())
+            return true;
+        error = file.errorString();
+        if (!isWritten)
+            return false;
+        if (tries > 1)
+            QThread::msleep(ReplacePause);
+    }
     return false;
 }
 

@@ -208,16 +208,17 @@ void writeMultiActions(const Write &write)
 /// The file of layouts has moved on since the panel got this one: the request that brings the new one waits
 /// in the queue, and behind it the pictures of all keys whose size differs. Until then the panel would refuse
 /// it.
-bool isAheadOfLayout(const Write &write)
+bool isAheadOfLayout(const Write &write, const QSize &size)
 {
-    return write.context.layouts.differs(write.key, keyPixelSize(write.key));
+    return write.context.layouts.differs(write.key, size);
 }
 
 void writeImage(const Write &write)
 {
-    if (isAheadOfLayout(write))
+    const QSize size = keyPixelSize(write.key); // once: the file may change at any moment
+    if (isAheadOfLayout(write, size))
         return;
-    const std::optional<QByteArray> picture = encodedKeyPicture(write.context.store, write.key);
+    const std::optional<QByteArray> picture = encodedKeyPicture(write.context.store, write.key, size);
     if (!picture) {
         Log(LogLevel::Error, Text::NoPicture, write.key.lid, write.key.pageid, write.key.kid);
         write.context.unreadable = true;

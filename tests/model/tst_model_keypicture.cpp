@@ -79,7 +79,7 @@ private slots:
         FunctionManager store;
         store.createKeyAttribute(4, 1, 1, 5);
         store.setCustomImage({4, 1, 1}, file);
-        const auto bytes = encodedKeyPicture(store, {4, 1, 1});
+        const auto bytes = encodedKeyPicture(store, {4, 1, 1}, keyPixelSize({4, 1, 1}));
         QVERIFY(bytes);
         QVERIFY(bytes->startsWith(QByteArray::fromHex("89504E470D0A1A0A")));
         QCOMPARE(bytes->at(25), char(2)); // colour type of the PNG: RGB
@@ -94,11 +94,11 @@ private slots:
         QFile film(mpFixture->path("film.mp4"));
         QVERIFY(film.open(QIODevice::WriteOnly) && film.write("not a picture"));
         FunctionManager store;
-        QVERIFY(!encodedKeyPicture(store, {1, 1, 1})); // unknown key
+        QVERIFY(!encodedKeyPicture(store, {1, 1, 1}, {90, 84})); // unknown key
         store.createKeyAttribute(1, 1, 1, 17);
         for (const char *path : {"", "/no/such/file.png", ":/no/such/file.png", "film.mp4"}) {
             store.setCustomImage({1, 1, 1}, u(path));
-            QVERIFY(!encodedKeyPicture(store, {1, 1, 1}));
+            QVERIFY(!encodedKeyPicture(store, {1, 1, 1}, {90, 84}));
         }
     }
 

@@ -1,4 +1,5 @@
 // Groupings of keys, the file of custom layouts, and their background.
+#include "base/paths.h"
 #include "model/customlayouts.h"
 #include "model/layoutbackground.h"
 #include "model/layoutgrouping.h"
@@ -6,7 +7,10 @@
 #include "support/table.h"
 
 #include <QTemporaryDir>
+#include <QThread>
+#include <atomic>
 #include <memory>
+#include <thread>
 
 using namespace vorlinmodel;
 
@@ -154,6 +158,35 @@ private slots:
         QVERIFY(QFile::remove("devConfig"_s) && QFile::rename("kept"_s, "devConfig"_s));
         QCOMPARE(loadCustomLayout(4)->name, "before"_s);
         QVERIFY(removeCustomLayout(4) && !loadCustomLayout(4));
+    }
+
+    /// As the protocol thread reads it, and as virus scanners do.
+    void fileIsSavedWhileOthersReadIt()
+    {
+        const CustomLayout layout = customLayoutOf(2, "L"_s, LayoutGrouping({0x63}));
+        QVERIFY(saveCustomLayout(layout));
+        std::atomic<int> missing = 0;
+        std::atomic<bool> isOver = false;
+        std::thread program([&] {
+            while (!isOver)
+                missing += loadCustomLayout(2) == layout ? 0 : 1;
+        });
+        std::thread scanner([&] {
+            for (; !isOver; QThread::msleep(40)) {
+                QFile file(vorlindesk::Paths::customLayoutIni());
+                if (file.open(QIODevice::ReadOnly))
+                    QThread::msleep(15);
+            }
+        });
+        int saved = 0;
+        for (int i = 0; i < 20; ++i)
+            saved += saveCustomLayout(customLayoutOf(3, QString::number(i), LayoutGrouping())) ? 1 : 0;
+        isOver = true;
+        program.join();
+        scanner.join();
+        QCOMPARE(saved, 20);
+        QCOMPARE(missing.load(), 0);
+        QCOMPARE(loadCustomLayout(3)->name, "19"_s);
     }
 
     void copiesKeptAsideAreNotOverwritten()

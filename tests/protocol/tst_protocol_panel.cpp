@@ -56,7 +56,7 @@ private slots:
         fixture.postFile(MD_FUNCTION_CODE_UPLOAD_FILE, "upload.txt"_s);
         QTRY_COMPARE(panel.state().files.value("upload.txt"_s), QByteArray("text"));
         QCOMPARE(panel.state().firmware, firmware);
-        QCOMPARE(panel.violations(), QStringList());
+        QCOMPARE(panel.violations().join("; "_s), QString());
     }
 };
 

@@ -360,7 +360,7 @@ private slots:
             QTRY_COMPARE(onPanel(fixture), QString::fromLatin1(before));
         }
         QVERIFY(!fixture.editor().edits.history().canUndo());
-        QCOMPARE(fixture.panel->violations(), QStringList());
+        QCOMPARE(fixture.panel->violations().join("; "_s), QString());
     }
 
     void mouse()

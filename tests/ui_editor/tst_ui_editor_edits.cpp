@@ -247,7 +247,7 @@ private slots:
         QTRY_COMPARE(int(fixture.editor().edits.pending().mark(Key)), int(PendingEdits::Mark::None));
         QTRY_COMPARE(int(fixture.panel->state().keys.value({1, 1, 3}).record.functionId), 5);
         QCOMPARE(panelTitle(fixture, Key), QByteArray());
-        QCOMPARE(fixture.panel->violations(), QStringList());
+        QCOMPARE(fixture.panel->violations().join("; "_s), QString());
         fixture.restart();
         QVERIFY(fixture.editor().edits.pending().keys().isEmpty());
     }

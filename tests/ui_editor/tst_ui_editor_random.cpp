@@ -267,7 +267,8 @@ PanelKey expected(const EditorFixture &fixture, const key_id_t &id)
     key.record.green = quint8(record.titleColour.green());
     key.record.blue = quint8(record.titleColour.blue());
     key.record.title = TextCodec::toGbk(record.strTitle);
-    key.picture = vorlinmodel::encodedKeyPicture(fixture.store, id).value_or(QByteArray());
+    key.picture = vorlinmodel::encodedKeyPicture(fixture.store, id, vorlinmodel::keyPixelSize(id))
+                      .value_or(QByteArray());
     return key;
 }
 
@@ -357,7 +358,7 @@ private slots:
             editor.edit();
         QVERIFY2(editor.settle(), qPrintable(editor.pendingText()));
         QVERIFY2(differences(fixture).isEmpty(), qPrintable(differences(fixture).join(QLatin1Char('\n'))));
-        QCOMPARE(fixture.panel->violations(), QStringList());
+        QCOMPARE(fixture.panel->violations().join("; "_s), QString());
         QVERIFY(fixture.store.getKeys().size() > 10); // else nothing was shown
 
         QVERIFY(fixture.editor().edits.saveNow());

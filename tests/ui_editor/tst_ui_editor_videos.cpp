@@ -111,7 +111,7 @@ private slots:
         QTRY_VERIFY(fixture.onPanel().isEmpty());
         fixture.editor().edits.redo(); // the file is still there
         QTRY_COMPARE(fixture.onPanel(), VideoFixture::bytesOf(converted));
-        QCOMPARE(fixture.panel->violations(), QStringList());
+        QCOMPARE(fixture.panel->violations().join("; "_s), QString());
     }
 
     void cancelLeavesWhatThePanelHas_data()
@@ -157,7 +157,7 @@ private slots:
         QCOMPARE(fixture.store.getKeyAttribute(Key)->strTitle == "new"_s, edited);
         QCOMPARE(edits.history().count(), edited ? steps + 1 : steps);
         QCOMPARE(edits.history().canRedo(), !edited && !byUndo);
-        QCOMPARE(fixture.panel->violations(), QStringList());
+        QCOMPARE(fixture.panel->violations().join("; "_s), QString());
 
         edited || byUndo ? edits.undo() : edits.redo(); // what was cancelled can be had again
         const QString again = byUndo ? old : film;

@@ -63,7 +63,7 @@ private slots:
             panel.receive(block);
         panel.receive(whole("0105000000 02100f 08 03"));
         panel.receive(whole("0106000000 02100f 06 0141"));
-        QCOMPARE(panel.violations(), QStringList());
+        QCOMPARE(panel.violations().join("; "_s), QString());
 
         panel.receive(whole("08"));
         const QList<QByteArray> sent = panel.takeOutgoing();
@@ -105,7 +105,7 @@ private slots:
         QCOMPARE(panel.state().firmware, firmware);
         QCOMPARE(panel.takeRestart(), !firmware.isEmpty());
         QVERIFY(!panel.takeRestart());
-        QCOMPARE(panel.violations(), QStringList());
+        QCOMPARE(panel.violations().join("; "_s), QString());
     }
 
     void upgradeOutOfOrder_data()

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
+#include <map>
 #include <mutex>
 
 namespace vorlindesk {
@@ -51,10 +52,20 @@ void keepAside(const QString &path)
         qUtf8Printable(aside));
 }
 
+/// @return the lock of the file; there is one for each that was ever opened.
+std::recursive_mutex &lockOf(const QString &path)
+{
+    static std::mutex mutex;
+    static std::map<QString, std::recursive_mutex> locks;
+    const std::lock_guard lock(mutex);
+    return locks[QFileInfo(path).absoluteFilePath()];
+}
+
 } // namespace
 
 IniFile::IniFile(const QString &path)
-    : mSettings(path, QSettings::IniFormat)
+    : mTurn(lockOf(path))
+    , mSettings(path, QSettings::IniFormat)
 {
     mSettings.setIniCodec("utf-8");
     // The default, stated because so much hangs on it: a write goes through QSaveFile, so that a crash leaves

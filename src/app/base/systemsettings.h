@@ -4,6 +4,7 @@
 #include <QSettings>
 #include <QString>
 #include <QVector>
+#include <mutex>
 
 namespace vorlindesk {
 
@@ -19,8 +20,9 @@ inline constexpr char HomeLayoutPage[] =
 
 /// Opens INI files as this program writes them: codec "utf-8", whole-file replacement on write. A file that
 /// cannot be parsed is copied aside ("name.damaged") and reported at Error before it is used, so that nothing
-/// is lost; a file that cannot be read or written is reported too, each state of a file once. Several threads
-/// may have the same file open, each through an object of its own.
+/// is lost; a file that cannot be read or written is reported too, each state of a file once. Threads take
+/// turns with a file, since Windows does not replace one that another thread is reading. So an object of this
+/// class lives for a few statements; further ones of the same thread may be made meanwhile.
 class IniFile
 {
 public:
@@ -33,6 +35,7 @@ public:
     QSettings *operator->() { return &mSettings; }
 
 private:
+    const std::unique_lock<std::recursive_mutex> mTurn; // outlives mSettings
     QSettings mSettings;
 };
 

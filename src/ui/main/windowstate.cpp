@@ -17,12 +17,15 @@ constexpr char Page[] = "page";
 WindowState loadWindowState()
 {
     WindowState state;
-    vorlindesk::IniFile file(vorlindesk::Paths::systemIni());
-    file->beginGroup(QLatin1String(Group));
-    state.geometry = QByteArray::fromBase64(file->value(QLatin1String(Geometry)).toByteArray());
-    const int layoutId = file->value(QLatin1String(Layout)).toInt();
-    const int pageId = file->value(QLatin1String(Page)).toInt();
-    file->endGroup();
+    int layoutId = 0;
+    int pageId = 0;
+    {
+        vorlindesk::IniFile file(vorlindesk::Paths::systemIni());
+        file->beginGroup(QLatin1String(Group));
+        state.geometry = QByteArray::fromBase64(file->value(QLatin1String(Geometry)).toByteArray());
+        layoutId = file->value(QLatin1String(Layout)).toInt();
+        pageId = file->value(QLatin1String(Page)).toInt();
+    }
     // A custom layout may have been deleted meanwhile.
     if (layoutId > 1 && vorlinmodel::customLayoutIds().contains(layoutId))
         state.layoutId = layoutId;
