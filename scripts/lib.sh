@@ -24,7 +24,7 @@ need_packages() {
 }
 
 build_packages=(g++ cmake ninja-build ccache git ca-certificates qtbase5-dev qttools5-dev-tools libhidapi-dev
-    libhidapi-hidraw0 libx11-dev libxtst-dev librsvg2-bin imagemagick)
+    libhidapi-hidraw0 libx11-dev libxtst-dev libwebp-dev librsvg2-bin imagemagick)
 run_packages=(libqt5gui5 qt5-image-formats-plugins ffmpeg xdg-utils fonts-liberation fonts-droid-fallback)
 display_packages=(xvfb xauth openbox xdotool imagemagick x11-utils)
 

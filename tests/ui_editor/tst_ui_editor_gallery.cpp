@@ -1,5 +1,6 @@
 // The gallery: what gets in, under which name, what is known of it, how it looks, and what is dragged out.
 #include "editorfixture.h"
+#include "support/ffmpegtool.h"
 #include "ui_common/filedialog.h"
 #include "ui_common/messagebox.h"
 #include "ui_editor/galleryadding.h"
@@ -18,7 +19,6 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QPixmap>
-#include <QProcess>
 #include <QToolButton>
 #include <csignal>
 #ifdef Q_OS_UNIX
@@ -83,13 +83,9 @@ class tst_ui_editor_gallery : public QObject
     QString video(const QString &name, const QStringList &more = {}) const
     {
         const QString path = write(name, {});
-        QProcess::execute(
-            vorlindesk::Paths::ffmpegTool(),
-            QStringList{u("-v"), u("error"), u("-f"), u("lavfi"), u("-i"), u("color=red:s=64x48:r=5:d=2")} +
-                more + QStringList{u("-y"), path});
+        makeFilm(path, u("color=red:s=64x48:r=5:d=2"), more);
         return path;
     }
-    static bool hasTool() { return QFile::exists(vorlindesk::Paths::ffmpegTool()); }
     QStringList names() const
     {
         return QDir(GalleryPictures::folder()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
@@ -296,8 +292,11 @@ private slots:
     {
         QFETCH(QString, name);
         QFETCH(QStringList, codec);
-        if (!hasTool())
-            QSKIP("this machine has no ffmpeg");
+#ifdef Q_OS_WIN
+        name.remove(QLatin1Char('"'));
+#endif
+        if (!toolMakesFilms() || QFileInfo(video(name, codec)).size() == 0)
+            QSKIP("this ffmpeg cannot make such a film");
         mpGallery->add({video(name, codec)});
         QTRY_COMPARE(shown(), QStringList(name));
         QTRY_VERIFY(!thumbnail(name).isNull());
@@ -317,8 +316,8 @@ private slots:
 
     void videosThatCannotBeOpened()
     {
-        if (!hasTool())
-            QSKIP("this machine has no ffmpeg");
+        if (!toolMakesFilms())
+            QSKIP("this ffmpeg makes no films");
         const QString whole = video(u("a.mp4"), {u("-c:v"), u("mpeg4")});
         QFile file(whole);
         QVERIFY(file.open(QIODevice::ReadOnly));

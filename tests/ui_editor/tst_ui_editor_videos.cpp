@@ -1,13 +1,11 @@
 // Videos on keys: made by the real tool, sent to the panel in software, cancelled at every stage.
 #include "editorfixture.h"
 #include "model/functionids.h"
+#include "support/ffmpegtool.h"
 #include "support/table.h"
 #include "ui_common/messagebox.h"
 #include "ui_editor/keywidget.h"
 #include "ui_editor/transferbar.h"
-
-#include <QProcess>
-#include <QStandardPaths>
 
 using vorlinmodel::key_id_t;
 using Panel = EditorFixture::Panel;
@@ -38,9 +36,7 @@ public:
     VideoPlacement &videos() { return editor().videos; }
     QString make(const char *name, const char *source, const QStringList &more = {}) const
     {
-        QProcess::execute("ffmpeg"_s,
-                          QStringList{"-v"_s, "error"_s, "-f"_s, "lavfi"_s, "-i"_s, QString::fromUtf8(source)}
-                              << more << "-y"_s << path(name));
+        makeFilm(path(name), QString::fromUtf8(source), more);
         return path(name);
     }
     /// A video that the panel plays; each frame takes it about 0.15 s.
@@ -87,8 +83,8 @@ class VideosTest : public QObject
 private slots:
     void initTestCase()
     {
-        if (QStandardPaths::findExecutable("ffmpeg"_s).isEmpty())
-            QSKIP("this machine has no ffmpeg");
+        if (!toolMakesFilms())
+            QSKIP("there is no ffmpeg beside this program that makes films");
     }
     void cleanup() { MessageBox::setAnswer({}); }
 
@@ -198,7 +194,7 @@ private slots:
     void conversionsQueueAndEachCanBeCancelled()
     {
         VideoFixture fixture(Panel::None);
-        const QString film = fixture.make("film.webm", "testsrc=duration=3:size=640x480:rate=30");
+        const QString film = fixture.make("film.mkv", "testsrc=duration=3:size=640x480:rate=30");
         fixture.videos().place(Key, film);
         fixture.videos().place(Other, film);
         QCOMPARE(fixture.videos().activity()->key, Key);

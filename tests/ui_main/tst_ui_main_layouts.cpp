@@ -1,6 +1,7 @@
 // The page of the layouts, driven as a person does, with a panel in software behind it.
 #include "model/customlayouts.h"
 #include "model/layoutgrouping.h"
+#include "support/ffmpegtool.h"
 #include "support/files.h"
 #include "support/table.h"
 #include "ui_common/cropdialog.h"
@@ -285,7 +286,7 @@ private slots:
 
     void backgroundIsSeenAtOnceAndSavedWithTheLayout()
     {
-        if (!QFile::exists(vorlindesk::Paths::ffmpegTool()))
+        if (!hasTool())
             QSKIP("there is no ffmpeg beside this program");
         LayoutsFixture f([](auto &) { store(2, "Desk", {}); });
         f.list()->setCurrentRow(1);

@@ -1,5 +1,6 @@
 // The pages beside the editor: layouts, picture upload, system settings.
 #include "base/paths.h"
+#include "support/ffmpegtool.h"
 #include "ui_common/filedialog.h"
 #include "ui_common/messagebox.h"
 #include "ui_editor/functionconfigwidget.h"
@@ -91,7 +92,7 @@ private slots:
 
     void pictureOfTheUploadPageComesIntoTheGallery()
     {
-        if (!QFile::exists(vorlindesk::Paths::ffmpegTool()))
+        if (!hasTool())
             QSKIP("there is no ffmpeg beside this program");
         QImage image(300, 200, QImage::Format_RGB32);
         image.fill(Qt::blue);
