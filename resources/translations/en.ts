@@ -157,6 +157,10 @@
         <source>%1 of %2: %3</source>
         <translation>%1 of %2: %3</translation>
     </message>
+    <message>
+        <source>What an earlier restore left in &quot;%1&quot; cannot be removed. Close the programs that use its files, and try again.</source>
+        <translation>What an earlier restore left in &quot;%1&quot; cannot be removed. Close the programs that use its files, and try again.</translation>
+    </message>
 </context>
 <context>
     <name>BackupPanel</name>
@@ -2053,6 +2057,17 @@ What is on this computer is saved as a backup first. “Undo” in the editor br
     <message>
         <source>A mark that the panel has yet to send its layouts. The program takes it away once they have come; nothing else depends on it.</source>
         <translation>A mark that the panel has yet to send its layouts. The program takes it away once they have come; nothing else depends on it.</translation>
+    </message>
+</context>
+<context>
+    <name>Start</name>
+    <message>
+        <source>An earlier restore is not finished: a file is in use.</source>
+        <translation>An earlier restore is not finished: a file is in use.</translation>
+    </message>
+    <message>
+        <source>Close the programs that may use files in &quot;%1&quot;, then try again. Nothing is lost.</source>
+        <translation>Close the programs that may use files in &quot;%1&quot;, then try again. Nothing is lost.</translation>
     </message>
 </context>
 <context>

@@ -157,6 +157,10 @@
         <source>%1 of %2: %3</source>
         <translation>%2 的 %1：%3</translation>
     </message>
+    <message>
+        <source>What an earlier restore left in &quot;%1&quot; cannot be removed. Close the programs that use its files, and try again.</source>
+        <translation>先前的恢复在“%1”中留下的内容无法删除。请关闭正在使用这些文件的程序，然后重试。</translation>
+    </message>
 </context>
 <context>
     <name>BackupPanel</name>
@@ -2053,6 +2057,17 @@ What is on this computer is saved as a backup first. “Undo” in the editor br
     <message>
         <source>A mark that the panel has yet to send its layouts. The program takes it away once they have come; nothing else depends on it.</source>
         <translation>标记面板尚未发送其布局。收到布局后程序会自动取消此标记；此外没有其他作用。</translation>
+    </message>
+</context>
+<context>
+    <name>Start</name>
+    <message>
+        <source>An earlier restore is not finished: a file is in use.</source>
+        <translation>先前的恢复尚未完成：有文件正在使用中。</translation>
+    </message>
+    <message>
+        <source>Close the programs that may use files in &quot;%1&quot;, then try again. Nothing is lost.</source>
+        <translation>请关闭可能正在使用“%1”中文件的程序，然后重试。不会丢失任何内容。</translation>
     </message>
 </context>
 <context>

@@ -157,6 +157,10 @@
         <source>%1 of %2: %3</source>
         <translation>%2 的 %1：%3</translation>
     </message>
+    <message>
+        <source>What an earlier restore left in &quot;%1&quot; cannot be removed. Close the programs that use its files, and try again.</source>
+        <translation>先前的還原在「%1」中留下的內容無法刪除。請關閉正在使用這些檔案的程式，然後重試。</translation>
+    </message>
 </context>
 <context>
     <name>BackupPanel</name>
@@ -2053,6 +2057,17 @@ What is on this computer is saved as a backup first. “Undo” in the editor br
     <message>
         <source>A mark that the panel has yet to send its layouts. The program takes it away once they have come; nothing else depends on it.</source>
         <translation>標記面板尚未傳送其版面。收到版面後程式會自動取消此標記；此外沒有其他作用。</translation>
+    </message>
+</context>
+<context>
+    <name>Start</name>
+    <message>
+        <source>An earlier restore is not finished: a file is in use.</source>
+        <translation>先前的還原尚未完成：有檔案正在使用中。</translation>
+    </message>
+    <message>
+        <source>Close the programs that may use files in &quot;%1&quot;, then try again. Nothing is lost.</source>
+        <translation>請關閉可能正在使用「%1」中檔案的程式，然後重試。不會遺失任何內容。</translation>
     </message>
 </context>
 <context>

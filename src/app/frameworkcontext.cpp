@@ -12,9 +12,11 @@
 #include "protocol/protocolthread.h"
 #include "resources/translationresources.h"
 #include "ui_common/knownpicture.h"
+#include "ui_common/messagebox.h"
 #include "ui_main/widget.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QIcon>
 #include <QScreen>
 #include <QTranslator>
@@ -69,7 +71,8 @@ bool FrameworkContext::start(int &argc, char **argv, const QString &dataDir)
     quitOnTerminationSignals(mpApplication.get());
     const QImage icon = knownPicture(QStringLiteral(":/icon/MENU_ZX_LOGO.bmp"), "BMP");
     QApplication::setWindowIcon(QIcon(QPixmap::fromImage(icon)));
-    if (!prepareFiles(dataDir) || !prepareLanguage() || !prepareStore() || !startProtocolThread())
+    if (!prepareFiles(dataDir) || !prepareLanguage() || !finishRestore() || !prepareStore() ||
+        !startProtocolThread())
         return false;
     readDeviceSettings();
     return createWindow();
@@ -85,9 +88,30 @@ bool FrameworkContext::prepareFiles(const QString &dataDir)
     startLog(Paths::logFolder());
     logSystemInformation();
     Paths::createRuntimePath();
-    vorlinmodel::recoverRestore(); // before any of its files is read; says itself what it could not do
+    mIsRestored = vorlinmodel::recoverRestore(); // before any of its files is read
     SystemSettings::createDefaults();
     return true;
+}
+
+/// Half of one state and half of another are neither to be edited nor to be saved.
+bool FrameworkContext::finishRestore()
+{
+    if (mIsRestored)
+        return true;
+    const MessageBox::Question question{
+        .text = QCoreApplication::translate("Start", "An earlier restore is not finished: a file is in use."),
+        .explanation =
+            QCoreApplication::translate("Start", "Close the programs that may use files in \"%1\", then try "
+                                                 "again. Nothing is lost.")
+                .arg(QDir::toNativeSeparators(Paths::devConfigFolder())),
+        .buttons = QMessageBox::Retry | QMessageBox::Close,
+        .preset = QMessageBox::Retry};
+    do {
+        if (MessageBox::question(nullptr, question) != QMessageBox::Retry)
+            return false;
+    } while (!vorlinmodel::recoverRestore());
+    SystemSettings::createDefaults();
+    return mpLanguageManager->Init(); // the language is among what was restored
 }
 
 bool FrameworkContext::prepareLanguage()

@@ -51,6 +51,7 @@ public:
 private:
     bool prepareFiles(const QString &dataDir);
     bool prepareLanguage();
+    bool finishRestore();
     bool prepareStore();
     bool startProtocolThread();
     void readDeviceSettings();
@@ -64,7 +65,8 @@ private:
     std::unique_ptr<vorlinmodel::ProtocolThread> mpProtocolThread;
     HandOver mHandOver;
     std::unique_ptr<Widget> mpWidget;
-    bool mHasFolder = false; ///< the folder for the program's files was found, and with it the log's
+    bool mIsRestored = false; ///< no restore is left half done
+    bool mHasFolder = false;  ///< the folder for the program's files was found, and with it the log's
 };
 
 } // namespace vorlindesk

@@ -9,7 +9,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QVector>
-#include <filesystem>
 #include <optional>
 
 namespace vorlinmodel::BackupSwitch {
@@ -87,14 +86,10 @@ bool removeEntry(const QString &path)
     return removed || !exists(path);
 }
 
-// Not QFile::rename(): where a file cannot be renamed that copies it, and a kill would leave half a file.
 bool move(const QString &from, const QString &to, QString &error)
 {
-    std::error_code code;
-    std::filesystem::rename(from.toStdU16String(), to.toStdU16String(), code);
-    if (!code)
+    if (renameWhole(from, to, error))
         return true;
-    error = QString::fromLocal8Bit(code.message().c_str());
     Log(LogLevel::Error, LogText::NotMoved, qUtf8Printable(from), qUtf8Printable(to), qUtf8Printable(error));
     return false;
 }
@@ -213,17 +208,20 @@ bool prepare(QString &error)
         error = BackupText::unfinished(restoreFolder());
         return false;
     }
-    discard();
+    // What an earlier switch put aside would be taken for this one's, should it stay.
+    if (!discard()) {
+        error = BackupText::notRemoved(restoreFolder());
+        return false;
+    }
     if (QDir().mkpath(newFolder()))
         return true;
     error = BackupText::notWritten(newFolder(), QString());
     return false;
 }
 
-void discard()
+bool discard()
 {
-    if (exists(restoreFolder()))
-        removeEntry(restoreFolder());
+    return !exists(restoreFolder()) || removeEntry(restoreFolder());
 }
 
 bool run(const QStringList &names, QString &error)

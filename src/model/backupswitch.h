@@ -15,8 +15,8 @@ QString newFolder(); ///< "devConfig/restore/new"
 /// @p error, also while an earlier switch could neither be finished nor taken back.
 bool prepare(QString &error);
 
-/// Gives a preparation up.
-void discard();
+/// Gives a preparation up. @return false when something of it cannot be removed, which prepare() tries again.
+bool discard();
 
 /// Exchanges the entries @p names of "devConfig" for those in newFolder(); one that was not prepared is just
 /// taken away. @return false with the reason in @p error: then everything is as it was before, or, should

@@ -48,6 +48,14 @@ QString holdsNothing(const QString &name)
         .arg(name);
 }
 
+QString notRemoved(const QString &folder)
+{
+    return text(QT_TRANSLATE_NOOP("Backup",
+                                  "What an earlier restore left in \"%1\" cannot be removed. Close the "
+                                  "programs that use its files, and try again."))
+        .arg(native(folder));
+}
+
 QString unfinished(const QString &folder)
 {
     return text(QT_TRANSLATE_NOOP("Backup", "An earlier restore could not be finished. Its files are in "

@@ -11,6 +11,7 @@ QString notVerified(const QString &folder);
 QString damaged(const QString &name);
 QString holdsNothing(const QString &name);
 QString unfinished(const QString &folder);
+QString notRemoved(const QString &folder);
 QString notSwitched(const QString &path, const QString &reason);
 
 /// What is damaged in a script, or left out of it.

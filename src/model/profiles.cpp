@@ -132,9 +132,10 @@ private:
 
     bool putInPlace()
     {
-        if (QDir().rename(mPart, mResult.folder))
+        QString reason;
+        if (renameWhole(mPart, mResult.folder, reason))
             return true;
-        mResult.error = BackupText::notWritten(mResult.folder, QString());
+        mResult.error = BackupText::notWritten(mResult.folder, reason);
         return false;
     }
 
@@ -277,7 +278,8 @@ QVector<BackupInfo> list(const QString &directory)
 bool remove(const QString &folder)
 {
     const QString clean = QDir::cleanPath(folder);
-    if (!isBackupName(QFileInfo(clean).fileName()) || !QDir().rename(clean, partOf(clean)))
+    QString reason;
+    if (!isBackupName(QFileInfo(clean).fileName()) || !renameWhole(clean, partOf(clean), reason))
         return false;
     return QDir(partOf(clean)).removeRecursively();
 }

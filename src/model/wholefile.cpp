@@ -4,19 +4,23 @@
 #include <QSaveFile>
 #include <QThread>
 #include <algorithm>
+#include <filesystem>
 
 namespace vorlinmodel {
 
 namespace {
 
 // Windows does not replace a file that somebody has open, as virus scanners do for a moment with every new
-// one.
+// one; nor does it rename a folder with such a file in it, which may hold hundreds.
 #ifdef Q_OS_WIN
 constexpr int ReplaceTries = 5;
+constexpr int RenameTries = 40;
 #else
 constexpr int ReplaceTries = 1;
+constexpr int RenameTries = 1;
 #endif
 constexpr int ReplacePause = 10; // ms
+constexpr int RenamePause = 50;  // ms
 
 /// In pieces, since QFile::read() takes as much memory as it is allowed to; and an endless device has no
 /// size.
@@ -71,6 +75,21 @@ bool writeWholeFile(const QString &path, const QByteArray &bytes, QString &error
         if (tries > 1)
             QThread::msleep(ReplacePause);
     }
+    return false;
+}
+
+// Not QFile::rename(): where a file cannot be renamed that copies it, and a kill would leave half a file.
+bool renameWhole(const QString &from, const QString &to, QString &error)
+{
+    std::error_code code;
+    for (int tries = RenameTries; tries > 0; --tries) {
+        std::filesystem::rename(from.toStdU16String(), to.toStdU16String(), code);
+        if (!code)
+            return true;
+        if (tries > 1)
+            QThread::msleep(RenamePause);
+    }
+    error = QString::fromLocal8Bit(code.message().c_str());
     return false;
 }
 

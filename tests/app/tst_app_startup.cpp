@@ -4,6 +4,8 @@
 #include "app/frameworkcontext.h"
 #include "base/log.h"
 #include "support/fakehid.h"
+#include "support/files.h"
+#include "ui_common/messagebox.h"
 
 #include <QtTest>
 
@@ -123,6 +125,41 @@ private slots:
         QDir::setCurrent(before);
         vorlindesk::setLogSink({});
         QTEST(lines, "log");
+    }
+
+    /// The folder of a restored file is missing, so that it can be put into neither place.
+    void unfinishedRestoreIsFinishedBeforeAnythingElse()
+    {
+        renewFakeHid();
+        QTemporaryDir dir;
+        const QString restore = dir.filePath("devConfig/restore/"_s);
+        QVERIFY(writeTestFile(restore + "new/sub/x"_s, "new") &&
+                writeTestFile(restore + "old/sub/x"_s, "old"));
+        QVERIFY(
+            writeTestFile(restore + "journal.txt"_s, "vorlindesk restore 1\nforward\n1 1 sub/x\n49100629"));
+        const QString before = QDir::currentPath();
+        for (const bool isMended : {false, true}) {
+            int asked = 0;
+            MessageBox::setAnswer([&](const QMessageBox &) {
+                ++asked;
+                if (isMended && asked == 2)
+                    QDir(dir.path()).mkpath("devConfig/sub"_s);
+                return isMended ? QMessageBox::Retry : QMessageBox::Close;
+            });
+            char name[] = "vorlindesk";
+            char *arguments[] = {name, nullptr};
+            int count = 1;
+            {
+                vorlindesk::FrameworkContext context;
+                QCOMPARE(context.start(count, arguments, dir.path()), isMended);
+            }
+            QDir::setCurrent(before);
+            QCOMPARE(asked, isMended ? 2 : 1);
+        }
+        MessageBox::setAnswer({});
+        QCOMPARE(testFileContent(dir.filePath("devConfig/sub/x"_s)),
+                 QByteArray("old")); // taken back meanwhile
+        QVERIFY(!QFileInfo::exists(restore));
     }
 
     /// There is no log then that could be pointed to.

@@ -90,9 +90,7 @@ private slots:
         QFETCH(QString, source);
         QFETCH(QByteArray, format);
         source.prepend(mpFixture->path(""));
-#ifdef Q_OS_WIN
-        source.remove(QLatin1Char('"'));
-#endif
+        source = possibleName(source);
         QImage image = twoColours({64, 48});
         QBuffer buffer;
         image.convertToFormat(QImage::Format_ARGB32).save(&buffer, format.constData());
@@ -311,9 +309,7 @@ private slots:
         if (!toolMakesFilms())
             QSKIP("this ffmpeg makes no films");
         QFETCH(VideoSettings, settings);
-#ifdef Q_OS_WIN
-        source.remove(QLatin1Char('"'));
-#endif
+        source = possibleName(source);
         const QString path = makeVideo(source, qPrintable(pattern));
         if (!QFile::exists(path))
             QSKIP("this ffmpeg cannot make such a film");

@@ -36,6 +36,18 @@ extern "C" int rename(const char *from, const char *to) noexcept
     errno = EBUSY;
     return -1;
 }
+
+/// Folders of this name cannot be removed while it is not empty.
+QByteArray heldFolder;
+
+/// In place of the system's, too.
+extern "C" int rmdir(const char *path) noexcept
+{
+    if (heldFolder.isEmpty() || !QByteArray(path).endsWith('/' + heldFolder))
+        return unlinkat(AT_FDCWD, path, AT_REMOVEDIR);
+    errno = EBUSY;
+    return -1;
+}
 #endif
 
 using namespace vorlinmodel;
@@ -402,6 +414,24 @@ private slots:
         beforeRename = {};
         QVERIFY(recoverRestore());
         QVERIFY(configuration() == before || presentContent(store)->files == loadBackup(folder)->files);
+    }
+
+    /// It looks like what the next restore has put aside.
+    void whatIsLeftOfARestoreStopsTheNext()
+    {
+        FunctionManager store;
+        const auto backup = loadBackup(backUpOld(store));
+        heldFolder = "old/image";
+        QVERIFY(restoreBackup(*backup, store, Safely).isDone);
+        QVERIFY(QFileInfo::exists(u("devConfig/restore/old/image")));
+        const Files before = configuration();
+        const auto refused = restoreBackup(*backup, store, Safely);
+        QVERIFY(!refused.isDone && refused.error.contains(u("cannot be removed")));
+        QCOMPARE(configuration(), before);
+        heldFolder.clear();
+        const auto result = restoreBackup(*backup, store, Safely);
+        QVERIFY2(result.isDone, qPrintable(result.error));
+        QVERIFY(!QFileInfo::exists(u("devConfig/restore")));
     }
 
     void aFullDiskChangesNothing()

@@ -21,3 +21,12 @@ inline QByteArray testFileContent(const QString &path)
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
 }
+
+/// @return @p name without what the system does not allow in names of files.
+inline QString possibleName(QString name)
+{
+#ifdef Q_OS_WIN
+    name.remove(QLatin1Char('"'));
+#endif
+    return name;
+}

@@ -1,6 +1,7 @@
 // The gallery: what gets in, under which name, what is known of it, how it looks, and what is dragged out.
 #include "editorfixture.h"
 #include "support/ffmpegtool.h"
+#include "support/files.h"
 #include "ui_common/filedialog.h"
 #include "ui_common/messagebox.h"
 #include "ui_editor/galleryadding.h"
@@ -292,9 +293,7 @@ private slots:
     {
         QFETCH(QString, name);
         QFETCH(QStringList, codec);
-#ifdef Q_OS_WIN
-        name.remove(QLatin1Char('"'));
-#endif
+        name = possibleName(name);
         if (!toolMakesFilms() || QFileInfo(video(name, codec)).size() == 0)
             QSKIP("this ffmpeg cannot make such a film");
         mpGallery->add({video(name, codec)});

@@ -140,6 +140,7 @@ private slots:
         QFETCH(QString, name);
         QFETCH(QByteArray, content);
         QFETCH(QString, problem);
+        name = possibleName(name);
         problem.replace("%1"_s, name);
         if (!content.isEmpty())
             writeTestFile(file(name), content);
@@ -162,6 +163,7 @@ private slots:
     {
         QFETCH(QString, name);
         QFETCH(int, fit);
+        name = possibleName(name);
         QVERIFY(twoColours({84, 840}).save(file(name)));
         QSignalSpy changed(mpPage.get(), &PictureUploadPage::sigGalleryChanged);
         choose(file(name));
