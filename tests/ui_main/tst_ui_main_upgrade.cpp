@@ -29,14 +29,15 @@ public:
                      const QString &fileName) override
     {
         requests << "%1: %2, %3"_s.arg(int(kind)).arg(devicePath, fileName);
-        const vorlinmodel::Request request{quint32(kind), 0, 0, 0, 0, 0, devicePath, fileName, 0};
+        last = {quint32(kind), 0, 0, 0, 0, 0, devicePath, fileName, 0};
         if (real)
-            real->postRequest(request);
+            real->postRequest(last);
         else if (isAnswered)
-            emit thread.sigRequestDone(request, vorlinmodel::RequestOutcome::NoPanel);
+            emit thread.sigRequestDone(last, vorlinmodel::RequestOutcome::NoPanel);
     }
 
     bool isAnswered = true; ///< else requests stay in the queue
+    vorlinmodel::Request last;
     std::unique_ptr<vorlinmodel::ProtocolThread> real;
 };
 
@@ -258,6 +259,41 @@ private slots:
         QTRY_VERIFY2_WITH_TIMEOUT(state().contains("The upgrade is done"_s), qPrintable(state()), 100'000);
         QCOMPARE(child<QProgressBar>("progressBar")->value(), blocks);
         QCOMPARE(mpPanel->state().firmware.size(), size);
+    }
+
+    /// Between its check and the request it is replaced by something else.
+    void fileThatChangesDuringTheBackup()
+    {
+        open();
+        int backups = 0;
+        mpDialog->setBackup([&](const HIDUpgradeDialog::BackedUp &done) {
+            if (++backups == 1)
+                QFile::resize("fw.xft"_s, 0);
+            done({"backup"_s, {}});
+            return QString();
+        });
+        choose("x");
+        click("upgradeButton");
+        QTRY_COMPARE(mBoxes, QStringList("tst_ui_main_upgrade: The file is empty."_s));
+        QCOMPARE(asked(), 0);
+    }
+
+    /// Each try counts as an upgrade until it has found no panel.
+    void closesWithoutAQuestionWhileThePanelIsWaitedFor()
+    {
+        open();
+        mpContext->isAnswered = false;
+        choose("x");
+        click("upgradeButton");
+        QTRY_COMPARE(asked(), 1);
+        mpContext->thread.upgrading = true;
+        mpDialog->close();
+        QVERIFY(mpDialog->isVisible());
+        mpContext->thread.upgrading = false;
+        emit mpContext->thread.sigRequestDone(mpContext->last, vorlinmodel::RequestOutcome::NoPanel);
+        QTRY_VERIFY(!mpDialog->isVisible());
+        QCOMPARE(mBoxes, QStringList());
+        QCOMPARE(asked(), 1);
     }
 
     void withoutABackupOnlyOnRequest()

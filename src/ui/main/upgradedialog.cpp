@@ -151,6 +151,8 @@ void HIDUpgradeDialog::onSaved(const BackupState &state)
 
 void HIDUpgradeDialog::startAsking()
 {
+    if (hasFileChanged()) // during the backup, or while a question was open
+        return prepare(true);
     setState(State::Waiting);
     requestUpgrade();
 }
@@ -217,6 +219,8 @@ void HIDUpgradeDialog::onUpdateAvailable(int nResult)
     mCrcFailed = false;
     mpProgress->begin();
     setState(State::Running);
+    if (std::exchange(mIsClosing, false))
+        reject(); // the panel came in this very moment: now it is a question
 }
 
 void HIDUpgradeDialog::onSetTimeoutButtonClicked()
@@ -300,6 +304,8 @@ void HIDUpgradeDialog::onFinished(int nResult)
 /// The end of a request without a word on how it finished: some step before the last has failed.
 void HIDUpgradeDialog::onDone()
 {
+    if (std::exchange(mIsClosing, false))
+        return reject();
     const bool asksAgain = mState == State::Waiting && mUpdateTimer.isActive();
     if (asksAgain || (mState != State::Running && mState != State::Waiting))
         return;
@@ -322,7 +328,7 @@ void HIDUpgradeDialog::setState(State state)
 void HIDUpgradeDialog::stopAsking()
 {
     mUpdateTimer.stop();
-    if (!mpThread || !mpFilePath || isUpgrading())
+    if (!mpThread || !mpFilePath)
         return;
     Request request;
     request.functionCode = static_cast<quint32>(RequestKind::MD_FUNCTION_CODE_UPGRADE);
@@ -332,9 +338,14 @@ void HIDUpgradeDialog::stopAsking()
 
 void HIDUpgradeDialog::reject()
 {
-    if (!confirmLeave(mContext, this))
+    const bool isWaiting = mState == State::Waiting;
+    if (!isWaiting && !confirmLeave(mContext, this))
         return;
     stopAsking();
+    // While no panel is there each try counts as an upgrade for a moment, and is none.
+    mIsClosing = isWaiting && isUpgrading();
+    if (mIsClosing)
+        return; // until it has ended
     mpTask->cancel();
     mIsSaving = false; // nothing follows a backup that is being made
     if (mState == State::Checking || mState == State::Waiting)

@@ -111,7 +111,8 @@ private:
     bool mCrcFailed = false;
     UpgradeFile mFile;
     bool mIsSaving = false;
-    bool mIsAsked = false; ///< a request of ours is in the queue, or is carried out
+    bool mIsAsked = false;   ///< a request of ours is in the queue, or is carried out
+    bool mIsClosing = false; ///< as soon as the try that is under way has found no panel
     QString mBackupFolder;
 
     QLabel *mpSendCaption = nullptr;
