@@ -12,6 +12,7 @@
 #include "model/scriptcontainer.h"
 #include "restoreplan.h"
 #include "scriptrecords.h"
+#include "wholefile.h"
 
 #include <QDir>
 #include <QFile>
@@ -35,6 +36,14 @@ constexpr char NotTaken[] = "restore: not taken over: %s\n";
 constexpr int GatherPart = 30; // percent of a restore
 constexpr int SafetyPart = 50;
 constexpr int PreparePart = 95;
+
+/// Whether @p bytes are the content of the file @p path. Far quicker than writing them.
+bool holds(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    QString error;
+    return file.size() == bytes.size() && readWholeFile(path, error, bytes.size()) == bytes;
+}
 
 class Restore
 {
@@ -140,7 +149,7 @@ private:
             const StoredKey &key = mKeys.at(i);
             mResult.isCancelled = !watch.goesOn(i, int(mKeys.size()));
             if (mResult.isCancelled || !writePart(key.attribute.customImage, key.picture) ||
-                !writePart(key.attribute.defaultImage, key.video))
+                !writeVideo(key.attribute.defaultImage, key.video))
                 return false;
             records.append({key.key, key.attribute});
         }
@@ -154,8 +163,7 @@ private:
     // Settings files that stay the same are not exchanged.
     bool writeFiles()
     {
-        mNames = QStringList({relative(Paths::imageFolder()), relative(scriptVideoFolder()),
-                              QLatin1String(LayoutPicturePrefix).chopped(1)});
+        mNames.append({relative(Paths::imageFolder()), QLatin1String(LayoutPicturePrefix).chopped(1)});
         for (const QString &name : ConfigBackup::settingsFileNames()) {
             const auto now = mPlan.files.find(name);
             const auto before = mPresent.files.find(name);
@@ -176,6 +184,17 @@ private:
     bool writePart(const QString &path, const QByteArray &bytes)
     {
         return bytes.isEmpty() || write(newPath(relative(path)), bytes);
+    }
+
+    /// Videos are added to those that are there, which undo may still lead to. One that stands under the same
+    /// name is replaced only when the disk has damaged it.
+    bool writeVideo(const QString &path, const QByteArray &bytes)
+    {
+        const QString name = relative(path);
+        if (bytes.isEmpty() || mNames.contains(name) || holds(path, bytes))
+            return true;
+        mNames.append(name);
+        return write(newPath(name), bytes);
     }
 
     // Not a whole file in one step, which waits for the disk each time, 10 s for all keys: what is prepared
@@ -240,6 +259,16 @@ RestoreResult restoreBackup(const BackupContent &backup, IFunctionManager &store
                             const RestoreOptions &options, const BackupWatch &watch)
 {
     return Restore(backup, store).run(options, watch);
+}
+
+QString restoredVideoFolder()
+{
+    return scriptVideoFolder();
+}
+
+bool isRestoreUnfinished()
+{
+    return QFileInfo::exists(BackupSwitch::newFolder());
 }
 
 bool recoverRestore()

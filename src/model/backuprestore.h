@@ -50,14 +50,22 @@ struct RestoreResult
 
 /// Replaces the configuration by that of @p backup: its keys, pictures, videos, action lists, settings files
 /// and layout pictures, then the records of @p store and the current script. What a complete backup does not
-/// have is gone afterwards; a plain export leaves the files that it lacks. Everything is prepared in a folder
-/// of its own; a failure, a cancellation or a kill before the exchange leaves the present state untouched, a
-/// kill within it is mended by recoverRestore(). The pictures lie in memory meanwhile.
+/// have is gone afterwards, but for videos (see restoredVideoFolder()); a plain export leaves the files that
+/// it lacks. Everything is prepared in a folder of its own; a failure, a cancellation or a kill before the
+/// exchange leaves the present state untouched, a kill within it is mended by recoverRestore(). The pictures
+/// lie in memory meanwhile.
 ///
 /// Any thread but that of the user interface, whose saving of the store is held back meanwhile
 /// (StoreFiles::pause()): it would write the old records over the new ones. One call at a time.
 RestoreResult restoreBackup(const BackupContent &backup, IFunctionManager &store,
                             const RestoreOptions &options, const BackupWatch &watch = {});
+
+/// "devConfig/video". Each video in it is called by the SHA-1 of its content in hex, by the keys' names
+/// before that; those of the states before a restore stay, for undo. Who ends the history removes them.
+QString restoredVideoFolder();
+
+/// A restore could be neither finished nor taken back: its files are still needed.
+bool isRestoreUnfinished();
 
 /// At start-up, before any file below "devConfig" is read: finishes a restore that was interrupted, or takes
 /// it back. @return false when neither is possible now (logged); the next start tries again.

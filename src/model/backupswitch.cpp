@@ -27,6 +27,7 @@ constexpr char JournalDamaged[] = "restore: journal [%s] damaged, the state from
 } // namespace LogText
 
 constexpr char FirstLine[] = "vorlindesk restore 1";
+constexpr char SharedFolder[] = "video"; // whose files are exchanged one by one
 constexpr char Forward[] = "forward";
 constexpr char Back[] = "back";
 
@@ -86,8 +87,10 @@ bool removeEntry(const QString &path)
     return removed || !exists(path);
 }
 
+/// An entry may lie in a folder that is not there yet.
 bool move(const QString &from, const QString &to, QString &error)
 {
+    QDir().mkpath(QFileInfo(to).path());
     if (renameWhole(from, to, error))
         return true;
     Log(LogLevel::Error, LogText::NotMoved, qUtf8Printable(from), qUtf8Printable(to), qUtf8Printable(error));
@@ -127,8 +130,14 @@ Journal journalFromFolders()
     Journal journal;
     journal.isForward = false;
     const auto filter = QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden;
-    for (const QString &name : QDir(oldFolder()).entryList(filter))
-        journal.entries.append({name, true, false});
+    const QStringList names = QDir(oldFolder()).entryList(filter);
+    for (const QString &name : names) {
+        if (name != QLatin1String(SharedFolder))
+            journal.entries.append({name, true, false});
+    }
+    const QString shared = QLatin1String(SharedFolder) + QLatin1Char('/');
+    for (const QString &name : QDir(oldPath(shared)).entryList(filter))
+        journal.entries.append({shared + name, true, false});
     return journal;
 }
 

@@ -4,7 +4,8 @@
 #include <QString>
 #include <QStringList>
 
-/// New files and folders are prepared in newFolder(), under the names that they get below "devConfig". Then a
+/// New files and folders are prepared in newFolder(), under the names that they get below "devConfig"; of the
+/// folder "video" only single files ("video/name"), since both states share the others. Then a
 /// journal is written: from that moment on the new state is the one that will be. Each entry is exchanged by
 /// two renames, the present one going to a folder beside. What a kill leaves behind, recover() finishes.
 namespace vorlinmodel::BackupSwitch {

@@ -147,7 +147,7 @@ private:
         if (path.isEmpty() || path.startsWith(ResourcePrefix)) // the icon of the key's function
             return;
         extra.video = fileOf(key, path);
-        // The name that it gets on the way back, so that a script made after that is the same.
+        // Not the name of the file, which is another after the way back: the script stays the same.
         extra.videoName = scriptVideoName(key, QFileInfo(path).fileName());
     }
 

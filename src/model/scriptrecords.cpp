@@ -6,6 +6,7 @@
 #include "model/keypicture.h"
 #include "wire/textcodec.h"
 
+#include <QCryptographicHash>
 #include <QFileInfo>
 #include <algorithm>
 
@@ -74,6 +75,14 @@ void setPicture(StoredKey &stored, const ScriptKey &extra)
             vorlindesk::Paths::keyPicture(stored.key.lid, stored.key.pageid, stored.key.kid);
 }
 
+QString videoEnding(const QString &original)
+{
+    const QString ending = QFileInfo(original).suffix().left(MaxEnding);
+    const bool isUsable = !ending.isEmpty() && std::all_of(ending.begin(), ending.end(),
+                                                           [](QChar c) { return c.isLetterOrNumber(); });
+    return isUsable ? ending : QStringLiteral("video");
+}
+
 } // namespace
 
 bool hasPlaceInScript(const key_id_t &key)
@@ -111,14 +120,17 @@ QString scriptVideoFolder()
     return vorlindesk::Paths::devConfigFolder() + QStringLiteral("/video");
 }
 
+// Joined, not filled in with arg(): the ending is foreign.
 QString scriptVideoName(const key_id_t &key, const QString &original)
 {
-    QString ending = QFileInfo(original).suffix().left(MaxEnding);
-    if (ending.isEmpty() ||
-        !std::all_of(ending.begin(), ending.end(), [](QChar c) { return c.isLetterOrNumber(); }))
-        ending = QStringLiteral("video");
-    // Joined, not filled in with arg(): the ending is foreign.
-    return QStringLiteral("%1_%2_%3.").arg(key.lid).arg(key.pageid).arg(key.kid) + ending;
+    return QStringLiteral("%1_%2_%3.").arg(key.lid).arg(key.pageid).arg(key.kid) + videoEnding(original);
+}
+
+QString scriptVideoPath(const QByteArray &bytes, const QString &original)
+{
+    const QByteArray hash = QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex();
+    return scriptVideoFolder() + QLatin1Char('/') + QString::fromLatin1(hash) + QLatin1Char('.') +
+           videoEnding(original);
 }
 
 StoredKey storedKey(const KeyRecord &record, const ScriptKey &extra)
@@ -130,8 +142,7 @@ StoredKey storedKey(const KeyRecord &record, const ScriptKey &extra)
         setPicture(stored, extra);
     stored.video = extra.video;
     if (!stored.video.isEmpty())
-        stored.attribute.defaultImage =
-            scriptVideoFolder() + QLatin1Char('/') + scriptVideoName(stored.key, extra.videoName);
+        stored.attribute.defaultImage = scriptVideoPath(stored.video, extra.videoName);
     return stored;
 }
 

@@ -22,10 +22,15 @@ ScriptTexts scriptTexts(const KeyRecord &record);
 /// "devConfig/video". Not the image folder, which is emptied whenever the panel's configuration is read.
 QString scriptVideoFolder();
 
-/// Name of a key's video in that folder: "%1_%2_%3." and the ending of @p original, if it is made of letters
+/// Name of a key's video in a script: "%1_%2_%3." and the ending of @p original, if it is made of letters
 /// and digits, else "video". Nothing else of @p original is used: it may come from a file, and lead
 /// elsewhere.
 QString scriptVideoName(const key_id_t &key, const QString &original);
+
+/// Where the video @p bytes of a script lies afterwards: in scriptVideoFolder(), named after its SHA-1 in hex
+/// and the ending of @p original, as above. So a record that is kept, by undo say, never comes to name
+/// another video.
+QString scriptVideoPath(const QByteArray &bytes, const QString &original);
 
 /// What a key of a script becomes: its record, and the files that the record names.
 struct StoredKey
@@ -33,7 +38,7 @@ struct StoredKey
     key_id_t key;
     key_atttribute_t attribute;
     QByteArray picture;      ///< for attribute.customImage; empty when there is no file to write
-    QByteArray video;        ///< for attribute.defaultImage; empty likewise
+    QByteArray video;        ///< for attribute.defaultImage, which other keys may share; empty likewise
     bool badPicture = false; ///< the script's picture cannot be decoded: the key shows none
 };
 StoredKey storedKey(const KeyRecord &record, const ScriptKey &extra);

@@ -127,7 +127,7 @@ private slots:
         QTEST(lines, "log");
     }
 
-    /// The folder of a restored file is missing, so that it can be put into neither place.
+    /// A file lies where the folder of a restored one belongs, so that it can be put into neither place.
     void unfinishedRestoreIsFinishedBeforeAnythingElse()
     {
         renewFakeHid();
@@ -137,13 +137,14 @@ private slots:
                 writeTestFile(restore + "old/sub/x"_s, "old"));
         QVERIFY(
             writeTestFile(restore + "journal.txt"_s, "vorlindesk restore 1\nforward\n1 1 sub/x\n49100629"));
+        QVERIFY(writeTestFile(dir.filePath("devConfig/sub"_s), "in the way"));
         const QString before = QDir::currentPath();
         for (const bool isMended : {false, true}) {
             int asked = 0;
             MessageBox::setAnswer([&](const QMessageBox &) {
                 ++asked;
                 if (isMended && asked == 2)
-                    QDir(dir.path()).mkpath("devConfig/sub"_s);
+                    QFile::remove(dir.filePath("devConfig/sub"_s));
                 return isMended ? QMessageBox::Retry : QMessageBox::Close;
             });
             char name[] = "vorlindesk";

@@ -164,7 +164,8 @@ private slots:
         QVERIFY(applyScript(parseScript(bytes), store, actions)); // what is asked for in spite of it
         QCOMPARE(store.getTitleText({1, 1, 4}), u("ü"));
         QCOMPARE(testFileContent(store.getDefaultImage({1, 1, 4})), QByteArray("avi"));
-        QVERIFY(store.getDefaultImage({1, 1, 4}).endsWith(u("/devConfig/video/1_1_4.avi")));
+        QVERIFY(store.getDefaultImage({1, 1, 4}).endsWith(
+            u("/devConfig/video/8f920f22884d6fea9df883843c4a8095a2e5ac6f.avi")));
         QCOMPARE(actions.readActionsByKeyId(1, 1, 4), QVector<MultiAction>({{100, 5, {}}}));
 
         bytes = encodeScript(smallScript());
@@ -251,7 +252,8 @@ private slots:
         QVERIFY(lines.contains(u("3 script: picture of lid:1 pageid:1 kid:1 cannot be decoded")));
         QCOMPARE(store.getKeys().size(), 1);
         QCOMPARE(store.getCustomImage({1, 1, 1}), QString());
-        QCOMPARE(store.getDefaultImage({1, 1, 1}), QDir::currentPath() + u("/devConfig/video/1_1_1.video"));
+        QCOMPARE(store.getDefaultImage({1, 1, 1}),
+                 QDir::currentPath() + u("/devConfig/video/8f920f22884d6fea9df883843c4a8095a2e5ac6f.video"));
     }
 };
 

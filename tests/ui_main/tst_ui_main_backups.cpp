@@ -281,6 +281,54 @@ private slots:
         QCOMPARE(f.panel->violations().join("; "_s), QString());
     }
 
+    /// Two imports in the history, with another video put on the key between them.
+    void undoFindsEveryVideo()
+    {
+        BackupsFixture f(Panel::None);
+        f.fill();
+        const auto shown = [&f] {
+            return testFileContent(f.store.getDefaultImage(Film));
+        };
+        const auto put = [&f](const char *name, const QColor &colour) {
+            writeTestFile(f.path(name), SmallAvi::file(colour));
+            f.edits().change("Video"_s, {Film}, [&] { f.store.setCustomVideo(Film, f.path(name)); });
+        };
+        const auto walk = [&f](void (KeyEdits::*step)()) {
+            (f.edits().*step)();
+            QTRY_VERIFY(!f.backups().isBusy());
+        };
+        QVector<QByteArray> states; // along the history
+        const auto importThis = [&](int row) {
+            f.import("importToHost", row);
+            states.append(shown());
+        };
+        f.press("createBackup"); // red
+        QTRY_COMPARE(f.list()->topLevelItemCount(), 1);
+        put("blue.avi", Qt::blue);
+        states.append(shown());
+        importThis(0);
+        put("green.avi", Qt::green);
+        states.append(shown());
+        f.backups().create("green"_s);
+        QTRY_COMPARE(f.list()->topLevelItemCount(), 3);
+        importThis(f.list()->indexOfTopLevelItem(f.list()->findItems("green"_s, Qt::MatchExactly).value(0)));
+        put("white.avi", Qt::white);
+        states.append(shown());
+        for (int i = states.size() - 2; i >= 0; --i) {
+            walk(&KeyEdits::undo);
+            QVERIFY2(shown() == states.at(i), qPrintable("undo to %1"_s.arg(i)));
+        }
+        for (int i = 1; i < states.size(); ++i) {
+            walk(&KeyEdits::redo);
+            QVERIFY2(shown() == states.at(i), qPrintable("redo to %1"_s.arg(i)));
+        }
+        walk(&KeyEdits::undo);
+        const QString kept = QFileInfo(f.store.getDefaultImage(Film)).fileName();
+        f.frame.reset();
+        f.context.reset(); // the end of the program: of all videos that came back, one is still used
+        QCOMPARE(QDir(f.path("devConfig/video")).entryList(QDir::Files), QStringList(kept));
+    }
+
     void withoutAPanelTheChangesWait()
     {
         BackupsFixture f(Panel::Absent);

@@ -17,16 +17,11 @@ QByteArray hashOf(const QString &path)
     return file.open(QIODevice::ReadOnly) && hash.addData(&file) ? hash.result() : QByteArray();
 }
 
-/// @return @p state of before, with its video under the name that the same one has now; another one may have
-/// that name, too, since a restored video is named after its key.
+/// @return @p state of before, with its video under the name that the same one has now.
 KeyState withNameOf(KeyState state, const KeyState &now, bool sameVideo)
 {
-    if (!state.record || !now.record || !isVideo(*now.record))
-        return state;
-    if (sameVideo)
+    if (sameVideo && state.record && now.record && isVideo(*now.record))
         state.record->defaultImage = now.record->defaultImage;
-    else if (state.record->defaultImage == now.record->defaultImage)
-        state.record->defaultImage.clear();
     return state;
 }
 

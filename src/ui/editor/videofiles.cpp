@@ -1,6 +1,7 @@
 #include "videofiles.h"
 
 #include "base/paths.h"
+#include "model/backuprestore.h"
 #include "model/ifunctionmanager.h"
 #include "model/videoconversion.h"
 
@@ -8,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSet>
 
 namespace {
@@ -83,6 +85,18 @@ void removeAllBut(const QSet<QString> &used, QDir dir)
         QDir(dir.filePath(name)).removeRecursively();
 }
 
+/// Only names that a restore gives, or gave.
+void removeRestoredBut(const QSet<QString> &used, QDir dir)
+{
+    static const QRegularExpression pattern(QStringLiteral("^([0-9a-f]{40}|\\d+_\\d+_\\d+)\\.\\w+$"));
+    if (vorlinmodel::isRestoreUnfinished())
+        return;
+    for (const QString &name : dir.entryList(QDir::Files)) {
+        if (!used.contains(name) && pattern.match(name).hasMatch())
+            dir.remove(name);
+    }
+}
+
 } // namespace
 
 void VideoFiles::removeUnused(const vorlinmodel::IFunctionManager &store)
@@ -98,6 +112,7 @@ void VideoFiles::removeUnused(const vorlinmodel::IFunctionManager &store)
     const QDir keysFolder(folder());
     removeAllBut(used, keysFolder);
     removeAllBut(used, QFileInfo(keysFolder.absolutePath()).dir()); // of the upload page
+    removeRestoredBut(used, QDir(vorlinmodel::restoredVideoFolder()));
 }
 
 QString VideoFiles::describe(const QString &path, bool isSent)
