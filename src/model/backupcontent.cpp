@@ -79,9 +79,9 @@ public:
     {
         readList();
         for (int i = 0; i < mFiles.size(); ++i) {
-            if (!watch.goesOn(i, int(mFiles.size())))
+            readFile(mFiles.at(i), watch.item(i, int(mFiles.size())));
+            if (watch.isGivenUp())
                 return std::nullopt;
-            readFile(mFiles.at(i));
         }
         if (!mContent.info.isComplete)
             mContent.info.counts = countsOf(mContent.script);
@@ -114,14 +114,17 @@ private:
         return std::any_of(mFiles.begin(), mFiles.end(), [&](const auto &file) { return file.path == path; });
     }
 
-    void readFile(const BackupListEntry &entry)
+    void readFile(const BackupListEntry &entry, const BackupWatch &watch)
     {
         QString error;
-        const auto bytes = isBackupPath(entry.path) ? readWholeFile(pathOf(entry.path), error) : std::nullopt;
+        std::optional<QByteArray> bytes;
+        if (isBackupPath(entry.path))
+            bytes = readWholeFile(pathOf(entry.path), error, MaxWholeFile, watch.part(0, 40));
+        const BackupWatch listed = watch.part(40, 70);
         const bool isWhole =
-            bytes && (!mContent.info.isComplete || backupListEntry(entry.path, *bytes) == entry);
+            bytes && (!mContent.info.isComplete || backupListEntry(entry.path, *bytes, listed) == entry);
         if (bytes && entry.path == QLatin1String(ConfigBackup::ScriptFileName))
-            takeScript(*bytes, isWhole);
+            takeScript(*bytes, isWhole, watch.part(70, 70));
         else if (isWhole)
             mContent.files.insert(entry.path, *bytes);
         else
@@ -129,10 +132,10 @@ private:
     }
 
     // The script has checksums of its own, which tell more closely what is damaged.
-    void takeScript(const QByteArray &bytes, bool isWhole)
+    void takeScript(const QByteArray &bytes, bool isWhole, const BackupWatch &watch)
     {
         mContent.scriptBytes = bytes;
-        mContent.script = parseScript(bytes);
+        mContent.script = parseScript(bytes, watch);
         for (const QString &name : mContent.script.damaged)
             mContent.damaged.append(QLatin1String(ConfigBackup::ScriptFileName) + QLatin1String(": ") + name);
         if (!isWhole && mContent.script.damaged.isEmpty())
@@ -151,12 +154,13 @@ bool readPresentFiles(BackupContent &content, const BackupWatch &watch)
 {
     const QStringList paths = filesIn(Paths::devConfigFolder());
     for (int i = 0; i < paths.size(); ++i) {
-        if (!watch.goesOn(i, int(paths.size())))
-            return false;
         QString reason;
         const QString path = Paths::devConfigFolder() + QLatin1Char('/') + paths.at(i);
-        if (const auto bytes = readWholeFile(path, reason))
+        const BackupWatch item = watch.item(i, int(paths.size()));
+        if (const auto bytes = readWholeFile(path, reason, MaxWholeFile, item))
             content.files.insert(paths.at(i), *bytes);
+        else if (watch.isGivenUp())
+            return false;
         else
             content.error = BackupText::notReadable(path, reason);
     }
@@ -192,7 +196,9 @@ std::optional<BackupContent> presentContent(const IFunctionManager &store, const
     if (!script || !readPresentFiles(content, watch.part(KeysPart, 100)))
         return std::nullopt;
     content.script = std::move(*script);
-    content.scriptBytes = encodeScript(content.script);
+    content.scriptBytes = encodeScript(content.script, watch.part(100, 100));
+    if (watch.isGivenUp())
+        return std::nullopt;
     content.info.counts = countsOf(content.script);
     return content;
 }
@@ -202,16 +208,16 @@ std::optional<BackupContent> loadBackup(const QString &folder, const BackupWatch
     return Loader(folder).run(watch);
 }
 
-BackupInfo backupInfo(const QString &folder)
+BackupInfo backupInfo(const QString &folder, const BackupWatch &watch)
 {
     QString error;
     const auto bytes = readWholeFile(folder + QLatin1Char('/') + QLatin1String(BackupListName), error);
     if (const auto list = bytes ? decodeBackupList(*bytes) : std::nullopt)
         return listedInfo(folder, *list);
     BackupInfo info = plainInfo(folder);
-    const auto script =
-        readWholeFile(folder + QLatin1Char('/') + QLatin1String(ConfigBackup::ScriptFileName), error);
-    info.counts = script ? countsOf(parseScript(*script)) : BackupCounts{};
+    const QString path = folder + QLatin1Char('/') + QLatin1String(ConfigBackup::ScriptFileName);
+    const auto script = readWholeFile(path, error, MaxWholeFile, watch);
+    info.counts = script ? countsOf(parseScript(*script, watch)) : BackupCounts{};
     return info;
 }
 

@@ -63,6 +63,6 @@ std::optional<BackupContent> presentContent(const IFunctionManager &store, const
 std::optional<BackupContent> loadBackup(const QString &folder, const BackupWatch &watch = {});
 
 /// The same without its content, for a list: fast for a complete backup. Counts that cannot be told are 0.
-BackupInfo backupInfo(const QString &folder);
+BackupInfo backupInfo(const QString &folder, const BackupWatch &watch = {});
 
 } // namespace vorlinmodel

@@ -76,9 +76,9 @@ void takeLine(BackupList &list, const QByteArray &line)
 
 } // namespace
 
-BackupListEntry backupListEntry(const QString &path, const QByteArray &bytes)
+BackupListEntry backupListEntry(const QString &path, const QByteArray &bytes, const BackupWatch &watch)
 {
-    return {path, bytes.size(), crc32(bytes)};
+    return {path, bytes.size(), crc32(bytes, watch)};
 }
 
 QByteArray encodeBackupList(const BackupList &list)

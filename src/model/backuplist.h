@@ -23,7 +23,7 @@ struct BackupList
     QVector<BackupListEntry> files;
 };
 
-BackupListEntry backupListEntry(const QString &path, const QByteArray &bytes);
+BackupListEntry backupListEntry(const QString &path, const QByteArray &bytes, const BackupWatch &watch = {});
 
 /// Lines of text, one fact each; the last one holds the checksum of all others.
 QByteArray encodeBackupList(const BackupList &list);

@@ -38,11 +38,11 @@ constexpr int SafetyPart = 50;
 constexpr int PreparePart = 95;
 
 /// Whether @p bytes are the content of the file @p path. Far quicker than writing them.
-bool holds(const QString &path, const QByteArray &bytes)
+bool holds(const QString &path, const QByteArray &bytes, const BackupWatch &watch)
 {
     QFile file(path);
     QString error;
-    return file.size() == bytes.size() && readWholeFile(path, error, bytes.size()) == bytes;
+    return file.size() == bytes.size() && readWholeFile(path, error, bytes.size(), watch) == bytes;
 }
 
 class Restore
@@ -115,23 +115,26 @@ private:
 
     bool prepare(const BackupWatch &watch)
     {
-        mPlan = planRestore(mBackup, mPresent);
-        collectKeys();
+        mPlan = planRestore(mBackup, mPresent, watch.still());
+        collectKeys(watch.still());
+        mResult.isCancelled = watch.isGivenUp();
+        if (mResult.isCancelled)
+            return false;
         if (!BackupSwitch::prepare(mResult.error))
             return false; // what is there now may be all that is left of an earlier one
-        const bool done = writeKeys(watch.part(0, 90)) && writeFiles();
+        const bool done = writeKeys(watch.part(0, 90)) && writeFiles(watch.part(90, 100));
         if (!done)
             BackupSwitch::discard();
         return done;
     }
 
-    void collectKeys()
+    void collectKeys(const BackupWatch &watch)
     {
         for (const PagePayload &page : mPlan.script.pages) {
             for (const KeyRecord &record : page.records) {
                 const key_id_t key{record.layoutId, record.pageId, record.keyId};
                 if (hasPlaceInScript(key))
-                    mKeys.append(storedKey(record, mPlan.script.keys.value(key)));
+                    mKeys.append(storedKey(record, mPlan.script.keys.value(key), watch));
                 if (!hasPlaceInScript(key) || mKeys.last().badPicture)
                     mResult.leftOut.append(BackupText::part(hasPlaceInScript(key) ? BackupText::Part::Picture
                                                                                   : BackupText::Part::Record)
@@ -147,9 +150,9 @@ private:
         QVector<KeyAttribute> records;
         for (int i = 0; i < mKeys.size(); ++i) {
             const StoredKey &key = mKeys.at(i);
-            mResult.isCancelled = !watch.goesOn(i, int(mKeys.size()));
-            if (mResult.isCancelled || !writePart(key.attribute.customImage, key.picture) ||
-                !writeVideo(key.attribute.defaultImage, key.video))
+            const BackupWatch item = watch.item(i, int(mKeys.size()));
+            mResult.isCancelled = !item.goesOn(0, 1);
+            if (mResult.isCancelled || !writePicture(key, item.still()) || !writeVideo(key, item))
                 return false;
             records.append({key.key, key.attribute});
         }
@@ -161,7 +164,7 @@ private:
     }
 
     // Settings files that stay the same are not exchanged.
-    bool writeFiles()
+    bool writeFiles(const BackupWatch &watch)
     {
         mNames.append({relative(Paths::imageFolder()), QLatin1String(LayoutPicturePrefix).chopped(1)});
         for (const QString &name : ConfigBackup::settingsFileNames()) {
@@ -174,39 +177,48 @@ private:
         }
         for (auto it = mPlan.files.begin(); it != mPlan.files.end(); ++it) {
             const bool isExchanged = it.key().contains(QLatin1Char('/')) || mNames.contains(it.key());
-            if (isExchanged && !write(newPath(it.key()), it.value()))
+            if (isExchanged && !write(newPath(it.key()), it.value(), watch.still()))
                 return false;
         }
         return true;
     }
 
-    /// Writes what will stand at @p path, which lies below "devConfig".
-    bool writePart(const QString &path, const QByteArray &bytes)
+    bool writePicture(const StoredKey &key, const BackupWatch &watch)
     {
-        return bytes.isEmpty() || write(newPath(relative(path)), bytes);
+        return key.picture.isEmpty() ||
+               write(newPath(relative(key.attribute.customImage)), key.picture, watch);
     }
 
     /// Videos are added to those that are there, which undo may still lead to. One that stands under the same
     /// name is replaced only when the disk has damaged it.
-    bool writeVideo(const QString &path, const QByteArray &bytes)
+    bool writeVideo(const StoredKey &key, const BackupWatch &watch)
     {
-        const QString name = relative(path);
-        if (bytes.isEmpty() || mNames.contains(name) || holds(path, bytes))
+        const QString path = key.attribute.defaultImage;
+        if (key.video.isEmpty() || mVideos.contains(path))
             return true;
-        mNames.append(name);
-        return write(newPath(name), bytes);
+        mVideos.insert(path);
+        if (holds(path, key.video, watch.still()))
+            return true;
+        mNames.append(relative(path));
+        return write(newPath(relative(path)), key.video, watch);
     }
 
     // Not a whole file in one step, which waits for the disk each time, 10 s for all keys: what is prepared
     // here is thrown away when it is not complete. After a power failure there are both backups.
-    bool write(const QString &path, const QByteArray &bytes)
+    bool write(const QString &path, const QByteArray &bytes, const BackupWatch &watch)
     {
         const QString folder = QFileInfo(path).path();
         if (!mFolders.contains(folder) && QDir().mkpath(folder))
             mFolders.insert(folder);
         QFile file(path);
-        if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush())
+        const auto take = [&](qint64 offset, qint64 length) {
+            return file.write(bytes.constData() + offset, length) == length;
+        };
+        if (file.open(QIODevice::WriteOnly) && watch.inPieces(bytes.size(), take) && file.flush())
             return true;
+        mResult.isCancelled = watch.isGivenUp();
+        if (mResult.isCancelled)
+            return false;
         mResult.error = BackupText::notWritten(path, file.errorString());
         return false;
     }
@@ -250,6 +262,7 @@ private:
     QVector<StoredKey> mKeys;
     QStringList mNames; ///< of what is exchanged
     QSet<QString> mFolders;
+    QSet<QString> mVideos; ///< that have been seen to; keys may share one
     RestoreResult mResult;
 };
 

@@ -29,7 +29,8 @@ struct RestorePreview
 
 /// Compares by content: two keys are the same when they do and show the same. @p present comes from
 /// presentContent(). Any thread.
-RestorePreview previewRestore(const BackupContent &backup, const BackupContent &present);
+RestorePreview previewRestore(const BackupContent &backup, const BackupContent &present,
+                              const BackupWatch &watch = {});
 
 struct RestoreOptions
 {

@@ -24,11 +24,14 @@ constexpr std::array<quint32, 256> Table = makeTable();
 
 } // namespace
 
-quint32 crc32(const QByteArray &bytes)
+quint32 crc32(const QByteArray &bytes, const BackupWatch &watch)
 {
     quint32 remainder = 0xFFFFFFFF;
-    for (const char byte : bytes)
-        remainder = (remainder >> 8) ^ Table[(remainder ^ static_cast<quint8>(byte)) & 0xFF];
+    watch.inPieces(bytes.size(), [&](qint64 offset, qint64 length) {
+        for (const char *byte = bytes.constData() + offset; length > 0; ++byte, --length)
+            remainder = (remainder >> 8) ^ Table[(remainder ^ static_cast<quint8>(*byte)) & 0xFF];
+        return true;
+    });
     return remainder ^ 0xFFFFFFFF;
 }
 

@@ -28,6 +28,7 @@ constexpr char Failed[] = "backup: [%s] not made: %s\n";
 constexpr char UnfinishedEnding[] = ".part";
 constexpr char SystemIni[] = "system.ini";
 constexpr int GatherPart = 60; // percent of making a backup
+constexpr int ScriptPart = 90; // percent of writing it
 
 // Held while a backup is written, by worker threads only: two of the same second would take the same folder,
 // and one that is being written looks like what an interrupted program left.
@@ -91,28 +92,33 @@ private:
     bool write(const BackupWatch &watch)
     {
         QDir().mkpath(mPart + QLatin1Char('/') + QLatin1String(LayoutPicturePrefix)); // a failure shows below
-        if (!writeListed(QLatin1String(ConfigBackup::ScriptFileName), mContent.scriptBytes))
+        if (!writeListed(QLatin1String(ConfigBackup::ScriptFileName), mContent.scriptBytes,
+                         watch.part(0, ScriptPart)))
             return false;
+        const BackupWatch rest = watch.part(ScriptPart, 100);
         int done = 0;
         for (auto it = mContent.files.begin(); it != mContent.files.end(); ++it) {
-            if (!goesOn(watch, ++done, int(mContent.files.size()) + 1) || !writeListed(it.key(), it.value()))
+            if (!writeListed(it.key(), it.value(), rest.item(done++, int(mContent.files.size()))))
                 return false;
         }
-        return writeFile(QLatin1String(BackupListName), encodeBackupList(mList));
+        return writeFile(QLatin1String(BackupListName), encodeBackupList(mList), watch.part(100, 100));
     }
 
-    bool writeListed(const QString &path, const QByteArray &bytes)
+    bool writeListed(const QString &path, const QByteArray &bytes, const BackupWatch &watch)
     {
-        mList.files.append(backupListEntry(path, bytes));
-        return writeFile(path, bytes);
+        mList.files.append(backupListEntry(path, bytes, watch.still()));
+        return writeFile(path, bytes, watch);
     }
 
-    bool writeFile(const QString &path, const QByteArray &bytes)
+    bool writeFile(const QString &path, const QByteArray &bytes, const BackupWatch &watch)
     {
         const QString target = mPart + QLatin1Char('/') + path;
         QString reason;
-        if (writeWholeFile(target, bytes, reason))
+        if (writeWholeFile(target, bytes, reason, watch))
             return true;
+        mResult.isCancelled = watch.isGivenUp();
+        if (mResult.isCancelled)
+            return false;
         mResult.error = BackupText::notWritten(target, reason);
         return false;
     }
@@ -137,12 +143,6 @@ private:
             return true;
         mResult.error = BackupText::notWritten(mResult.folder, reason);
         return false;
-    }
-
-    bool goesOn(const BackupWatch &watch, int done, int total)
-    {
-        mResult.isCancelled = !watch.goesOn(done, total);
-        return !mResult.isCancelled;
     }
 
     const BackupContent &mContent;
@@ -198,10 +198,11 @@ void removeUnfinished(const QString &directory)
 }
 
 // Never @p newest, which looks old after the clock was set back.
-void removeOldest(const QString &directory, BackupReason reason, const QString &newest)
+void removeOldest(const QString &directory, BackupReason reason, const QString &newest,
+                  const BackupWatch &watch)
 {
     int kept = 1;
-    for (const BackupInfo &info : list(directory)) {
+    for (const BackupInfo &info : list(directory, watch)) {
         const bool counts = info.isComplete && info.reason == reason &&
                             QFileInfo(info.folder).fileName() != QFileInfo(newest).fileName();
         if (counts && ++kept > Kept)
@@ -235,7 +236,7 @@ BackupResult create(const QString &directory, const BackupContent &content, Back
     if (!result.folder.isEmpty() && reason == BackupReason::Person)
         setCurrentScript(content.scriptBytes);
     if (!result.folder.isEmpty() && reason != BackupReason::Person)
-        removeOldest(directory, reason, result.folder);
+        removeOldest(directory, reason, result.folder, watch.part(100, 100));
     return result;
 }
 
@@ -248,15 +249,15 @@ BackupResult createAutomatic(const QString &directory, const IFunctionManager &s
     }
     BackupResult result;
     const auto present = presentContent(store, watch.part(0, GatherPart));
-    const auto isThere =
-        present ? isBackedUp(list(directory), *present, watch.part(GatherPart, GatherPart)) : std::nullopt;
+    const BackupWatch still = watch.part(GatherPart, GatherPart);
+    const auto isThere = present ? isBackedUp(list(directory, still), *present, still) : std::nullopt;
     result.isCancelled = !isThere;
     if (!isThere || *isThere)
         return result;
     return create(directory, *present, BackupReason::Automatic, {}, watch.part(GatherPart, 100));
 }
 
-QVector<BackupInfo> list(const QString &directory)
+QVector<BackupInfo> list(const QString &directory, const BackupWatch &watch)
 {
     QVector<BackupInfo> backups;
     const QDir base(ConfigBackup::baseFolder(directory));
@@ -265,8 +266,8 @@ QVector<BackupInfo> list(const QString &directory)
         const bool isBackup =
             QFileInfo::exists(folder + QLatin1Char('/') + QLatin1String(ConfigBackup::ScriptFileName)) ||
             QFileInfo::exists(folder + QLatin1Char('/') + QLatin1String(BackupListName));
-        if (isBackupName(name) && isBackup)
-            backups.append(backupInfo(folder));
+        if (isBackupName(name) && isBackup && !watch.isGivenUp())
+            backups.append(backupInfo(folder, watch.still()));
     }
     std::sort(backups.begin(), backups.end(), [](const BackupInfo &one, const BackupInfo &other) {
         return std::pair(one.made, one.folder) > std::pair(other.made, other.folder);

@@ -36,8 +36,8 @@ BackupResult create(const QString &directory, const BackupContent &content, Back
 BackupResult createAutomatic(const QString &directory, const IFunctionManager &store,
                              const BackupWatch &watch = {});
 
-/// Newest first; plain exports too.
-QVector<BackupInfo> list(const QString &directory);
+/// Newest first; plain exports too. Not all of them when @p watch gave it up.
+QVector<BackupInfo> list(const QString &directory, const BackupWatch &watch = {});
 
 /// Removes a backup with all its files. @return false when @p folder is none, or cannot be removed.
 bool remove(const QString &folder);

@@ -130,13 +130,13 @@ QStringList fileChanges(const QMap<QString, QByteArray> &before, const QMap<QStr
 
 } // namespace
 
-RestorePlan planRestore(const BackupContent &backup, const BackupContent &present)
+RestorePlan planRestore(const BackupContent &backup, const BackupContent &present, const BackupWatch &watch)
 {
     RestorePlan plan{backup.script, backup.scriptBytes, backup.files};
     const bool isComplete = backup.info.isComplete;
     const bool keptPages = isScriptDamaged(backup) && addMissingPages(plan.script, present.script);
     if (isScriptDamaged(backup))
-        plan.scriptBytes = encodeScript(plan.script);
+        plan.scriptBytes = encodeScript(plan.script, watch);
     // The steps of the pages that stay are in none of the two files alone.
     if (keptPages || !plan.files.contains(QLatin1String(MultiActionsJson)))
         plan.files.insert(QLatin1String(MultiActionsJson), multiActionsOf(plan.script));
@@ -148,9 +148,10 @@ RestorePlan planRestore(const BackupContent &backup, const BackupContent &presen
     return plan;
 }
 
-RestorePreview previewRestore(const BackupContent &backup, const BackupContent &present)
+RestorePreview previewRestore(const BackupContent &backup, const BackupContent &present,
+                              const BackupWatch &watch)
 {
-    const RestorePlan plan = planRestore(backup, present);
+    const RestorePlan plan = planRestore(backup, present, watch);
     return {backup.info, pageChanges(present.script, plan.script), fileChanges(present.files, plan.files),
             backup.damaged, present.leftOut};
 }

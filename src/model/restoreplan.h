@@ -13,6 +13,7 @@ struct RestorePlan
 };
 
 /// The state of @p backup; what is damaged in it, and files that a plain export lacks, come from @p present.
-RestorePlan planRestore(const BackupContent &backup, const BackupContent &present);
+RestorePlan planRestore(const BackupContent &backup, const BackupContent &present,
+                        const BackupWatch &watch = {});
 
 } // namespace vorlinmodel

@@ -84,10 +84,13 @@ public:
     {
         const Records records = recordsOfOneMoment(mStore);
         for (int i = 0; i < records.size(); ++i) {
-            if (!watch.goesOn(i, int(records.size())))
+            mWatch = watch.item(i, int(records.size()));
+            if (!mWatch.goesOn(0, 1))
                 return std::nullopt;
             take(records.at(i).first, records.at(i).second);
         }
+        if (watch.isGivenUp())
+            return std::nullopt;
         if (!mScript.pages.isEmpty()) {
             mScript.layoutId = mScript.pages.first().layoutId;
             mScript.pageId = mScript.pages.first().pageId;
@@ -154,8 +157,9 @@ private:
     QByteArray fileOf(const key_id_t &key, const QString &path)
     {
         QString error;
-        const auto bytes = readWholeFile(path, error, std::max<qint64>(MaxScriptSize - mFileBytes, 0));
-        if (!bytes) {
+        const qint64 limit = std::max<qint64>(MaxScriptSize - mFileBytes, 0);
+        const auto bytes = readWholeFile(path, error, limit, mWatch);
+        if (!bytes && !mWatch.isGivenUp()) {
             Log(LogLevel::Warn, LogText::FileLeftOut, key.lid, key.pageid, key.kid, qUtf8Printable(path),
                 qUtf8Printable(error));
             mLeftOut.append(BackupText::fileOfKey(path, nameOf(key), error));
@@ -166,6 +170,7 @@ private:
 
     const IFunctionManager &mStore;
     QStringList &mLeftOut;
+    BackupWatch mWatch; ///< of the key that is taken
     QMap<key_id_t, QVector<MultiAction>> mActions;
     Script mScript;
     qint64 mFileBytes = 0;

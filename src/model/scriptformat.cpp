@@ -99,6 +99,10 @@ std::optional<QVector<MultiAction>> decodeActions(const QByteArray &data)
 class Writer
 {
 public:
+    explicit Writer(const BackupWatch &watch)
+        : mWatch(watch)
+    {}
+
     void page(const PagePayload &page)
     {
         QByteArray records;
@@ -146,12 +150,13 @@ private:
         writeInteger(head, Section::KeyId, static_cast<quint8>(id.kid));
         writeInteger(head, Section::Flags, flags);
         writeInteger(head, Section::Length, static_cast<quint32>(data.size()));
-        writeInteger(head, Section::DataChecksum, crc32(data));
+        writeInteger(head, Section::DataChecksum, crc32(data, mWatch));
         writeInteger(head, Section::HeadChecksum, crc32(head.left(Section::HeadChecksum)));
         mSections += head + data;
         ++mCount;
     }
 
+    const BackupWatch &mWatch;
     QByteArray mSections;
     quint32 mCount = 0;
 };
@@ -171,8 +176,9 @@ int checkedHeaderSize(const QByteArray &bytes)
 class Parser
 {
 public:
-    explicit Parser(const QByteArray &bytes)
+    Parser(const QByteArray &bytes, const BackupWatch &watch)
         : mBytes(bytes)
+        , mWatch(watch)
     {}
 
     Script run()
@@ -230,7 +236,7 @@ private:
             readInteger<quint32>(head, Section::Type),
             {byteAt(head, Section::LayoutId), byteAt(head, Section::PageId), byteAt(head, Section::KeyId)},
             byteAt(head, Section::Flags)};
-        if (readInteger<quint32>(head, Section::DataChecksum) != crc32(data) || !take(fields, data))
+        if (readInteger<quint32>(head, Section::DataChecksum) != crc32(data, mWatch) || !take(fields, data))
             mScript.damaged.append(nameOf(fields));
         return true;
     }
@@ -336,6 +342,7 @@ private:
     }
 
     const QByteArray &mBytes;
+    const BackupWatch &mWatch;
     Script mScript;
     quint32 mSectionCount = 0;
     int mOffset = 0;
@@ -343,9 +350,9 @@ private:
 
 } // namespace
 
-QByteArray encodeScript(const Script &script)
+QByteArray encodeScript(const Script &script, const BackupWatch &watch)
 {
-    Writer writer;
+    Writer writer(watch);
     for (const PagePayload &page : script.pages) {
         writer.page(page);
         // Page by page, as the panel takes them over.
@@ -368,9 +375,9 @@ std::optional<key_id_t> scriptPosition(const QByteArray &bytes)
     return key_id_t{byteAt(bytes, Header::LayoutId), byteAt(bytes, Header::PageId), 0};
 }
 
-Script parseScript(const QByteArray &bytes)
+Script parseScript(const QByteArray &bytes, const BackupWatch &watch)
 {
-    return Parser(bytes).run();
+    return Parser(bytes, watch).run();
 }
 
 } // namespace vorlinmodel

@@ -1,6 +1,7 @@
 /// Bytes of "CD.bin". All integers are little-endian.
 #pragma once
 
+#include "model/backupwatch.h"
 #include "model/keyid.h"
 #include "model/multiaction.h"
 #include "wire/keyrecord.h"
@@ -75,13 +76,13 @@ struct Script
 
 /// @return the container of @p script: its pages with their keys. Keys of other pages, and the members
 /// version, layoutId, pageId and damaged, are not looked at.
-QByteArray encodeScript(const Script &script);
+QByteArray encodeScript(const Script &script, const BackupWatch &watch = {});
 
 /// Layout and page of the first page in the script (key id 0); nothing when the header is not ours or
 /// damaged.
 std::optional<key_id_t> scriptPosition(const QByteArray &bytes);
 
 /// Never fails on foreign bytes: what cannot be read is named in Script::damaged.
-Script parseScript(const QByteArray &bytes);
+Script parseScript(const QByteArray &bytes, const BackupWatch &watch = {});
 
 } // namespace vorlinmodel

@@ -126,14 +126,18 @@ QString scriptVideoName(const key_id_t &key, const QString &original)
     return QStringLiteral("%1_%2_%3.").arg(key.lid).arg(key.pageid).arg(key.kid) + videoEnding(original);
 }
 
-QString scriptVideoPath(const QByteArray &bytes, const QString &original)
+QString scriptVideoPath(const QByteArray &bytes, const QString &original, const BackupWatch &watch)
 {
-    const QByteArray hash = QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex();
-    return scriptVideoFolder() + QLatin1Char('/') + QString::fromLatin1(hash) + QLatin1Char('.') +
-           videoEnding(original);
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    watch.inPieces(bytes.size(), [&](qint64 offset, qint64 length) {
+        hash.addData(bytes.constData() + offset, int(length));
+        return true;
+    });
+    return scriptVideoFolder() + QLatin1Char('/') + QString::fromLatin1(hash.result().toHex()) +
+           QLatin1Char('.') + videoEnding(original);
 }
 
-StoredKey storedKey(const KeyRecord &record, const ScriptKey &extra)
+StoredKey storedKey(const KeyRecord &record, const ScriptKey &extra, const BackupWatch &watch)
 {
     StoredKey stored;
     stored.key = {record.layoutId, record.pageId, record.keyId};
@@ -142,7 +146,7 @@ StoredKey storedKey(const KeyRecord &record, const ScriptKey &extra)
         setPicture(stored, extra);
     stored.video = extra.video;
     if (!stored.video.isEmpty())
-        stored.attribute.defaultImage = scriptVideoPath(stored.video, extra.videoName);
+        stored.attribute.defaultImage = scriptVideoPath(stored.video, extra.videoName, watch);
     return stored;
 }
 

@@ -30,7 +30,7 @@ QString scriptVideoName(const key_id_t &key, const QString &original);
 /// Where the video @p bytes of a script lies afterwards: in scriptVideoFolder(), named after its SHA-1 in hex
 /// and the ending of @p original, as above. So a record that is kept, by undo say, never comes to name
 /// another video.
-QString scriptVideoPath(const QByteArray &bytes, const QString &original);
+QString scriptVideoPath(const QByteArray &bytes, const QString &original, const BackupWatch &watch = {});
 
 /// What a key of a script becomes: its record, and the files that the record names.
 struct StoredKey
@@ -41,6 +41,6 @@ struct StoredKey
     QByteArray video;        ///< for attribute.defaultImage, which other keys may share; empty likewise
     bool badPicture = false; ///< the script's picture cannot be decoded: the key shows none
 };
-StoredKey storedKey(const KeyRecord &record, const ScriptKey &extra);
+StoredKey storedKey(const KeyRecord &record, const ScriptKey &extra, const BackupWatch &watch = {});
 
 } // namespace vorlinmodel

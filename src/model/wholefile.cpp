@@ -24,11 +24,13 @@ constexpr int RenamePause = 50;  // ms
 
 /// In pieces, since QFile::read() takes as much memory as it is allowed to; and an endless device has no
 /// size.
-QByteArray readUpTo(QFile &file, qint64 most)
+QByteArray readUpTo(QFile &file, qint64 most, const BackupWatch &watch)
 {
-    constexpr qint64 piece = 64 * 1024;
-    QByteArray bytes = file.read(std::min(file.size(), most));
-    while (bytes.size() < most) {
+    constexpr qint64 piece = BackupWatch::Piece;
+    const qint64 expected = std::min(file.size(), most);
+    QByteArray bytes;
+    bytes.reserve(int(expected));
+    while (bytes.size() < most && watch.goesOn(int(bytes.size() / piece), int(expected / piece) + 1)) {
         const QByteArray more = file.read(std::min(piece, most - bytes.size()));
         if (more.isEmpty())
             break;
@@ -37,9 +39,17 @@ QByteArray readUpTo(QFile &file, qint64 most)
     return bytes;
 }
 
+bool write(QSaveFile &file, const QByteArray &bytes, const BackupWatch &watch)
+{
+    return watch.inPieces(bytes.size(), [&](qint64 offset, qint64 length) {
+        return file.write(bytes.constData() + offset, length) == length;
+    });
+}
+
 } // namespace
 
-std::optional<QByteArray> readWholeFile(const QString &path, QString &error, qint64 limit)
+std::optional<QByteArray> readWholeFile(const QString &path, QString &error, qint64 limit,
+                                        const BackupWatch &watch)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -47,7 +57,9 @@ std::optional<QByteArray> readWholeFile(const QString &path, QString &error, qin
         return std::nullopt;
     }
     const QByteArray bytes =
-        readUpTo(file, limit + 1); // one byte more than allowed, to notice that there is more
+        readUpTo(file, limit + 1, watch); // one byte more than allowed, to notice that there is more
+    if (watch.isGivenUp())
+        return std::nullopt;
     if (bytes.size() > limit) {
         error = QStringLiteral("larger than %1 bytes").arg(limit);
         return std::nullopt;
@@ -59,14 +71,13 @@ std::optional<QByteArray> readWholeFile(const QString &path, QString &error, qin
     return bytes;
 }
 
-bool writeWholeFile(const QString &path, const QByteArray &bytes, QString &error)
+bool writeWholeFile(const QString &path, const QByteArray &bytes, QString &error, const BackupWatch &watch)
 {
     for (int tries = ReplaceTries; tries > 0; --tries) {
         QSaveFile file(path);
         // Flushed here, since commit() does not notice when the rest of the buffer finds a full disk: it
         // would put what little was written in place of the old file.
-        const bool isWritten =
-            file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+        const bool isWritten = file.open(QIODevice::WriteOnly) && write(file, bytes, watch) && file.flush();
         if (isWritten && file.commit())
             return true;
         error = file.errorString();

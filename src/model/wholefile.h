@@ -1,6 +1,8 @@
 /// Files read and replaced as a whole.
 #pragma once
 
+#include "model/backupwatch.h"
+
 #include <QByteArray>
 #include <QString>
 #include <optional>
@@ -11,12 +13,14 @@ namespace vorlinmodel {
 constexpr qint64 MaxWholeFile = qint64{256} * 1024 * 1024; // bytes
 
 /// @return the content of @p path, or nothing with the reason in @p error when it cannot be read to its end
-/// or is larger than @p limit bytes.
-std::optional<QByteArray> readWholeFile(const QString &path, QString &error, qint64 limit = MaxWholeFile);
+/// or is larger than @p limit bytes, or when @p watch gave it up.
+std::optional<QByteArray> readWholeFile(const QString &path, QString &error, qint64 limit = MaxWholeFile,
+                                        const BackupWatch &watch = {});
 
-/// Replaces @p path by @p bytes in one step: a crash or a full disk leaves the old file. @return false with
-/// the reason in @p error.
-bool writeWholeFile(const QString &path, const QByteArray &bytes, QString &error);
+/// Replaces @p path by @p bytes in one step: a crash, a full disk or @p watch, when it gives it up, leaves
+/// the old file. @return false with the reason in @p error.
+bool writeWholeFile(const QString &path, const QByteArray &bytes, QString &error,
+                    const BackupWatch &watch = {});
 
 /// Renames a file or a folder, never by copying it; on Windows it is tried for up to 2 s. @return false with the
 /// reason in @p error.

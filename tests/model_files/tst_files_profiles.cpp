@@ -359,6 +359,48 @@ private slots:
         QCOMPARE(last, 95);
     }
 
+    void givenUpWithinALargeFile_data()
+    {
+        QTest::addColumn<bool>("restores");
+        QTest::newRow("making") << false;
+        QTest::newRow("restoring") << true;
+    }
+
+    void givenUpWithinALargeFile()
+    {
+        QFETCH(bool, restores);
+        constexpr int size = 5 * 1024 * 1024;
+        FunctionManager store;
+        fillSmall(store, "old");
+        QVERIFY(writeTestFile(u("film.avi"), QByteArray(size, 'f')));
+        store.setCustomVideo({1, 1, 1}, QDir::currentPath() + u("/film.avi"));
+        const QString folder = Profiles::create(u("out"), store).folder;
+        int calls = 0;
+        const auto content = loadBackup(folder, BackupWatch([&](int) { ++calls; }));
+        QVERIFY(calls > 3 * 5); // its bytes are read, listed and checked in the script
+
+        const Files before = configuration();
+        const auto isWriting = [=] { // a file that is made of pieces
+            const QString part = QDir(u("out")).entryList({u("*.part")}).value(0);
+            const qint64 video =
+                QFileInfo(u("devConfig/restore/new") + videoPath(QByteArray(size, 'f'))).size();
+            return restores ? video > 0 && video < size
+                            : !part.isEmpty() && !QFileInfo::exists(u("out/") + part + u("/CD.bin"));
+        };
+        int pieces = 0;
+        std::atomic<bool> cancel = false;
+        const BackupWatch watch(
+            [&](int) { cancel = cancel || (isWriting() && ++pieces == (restores ? 2 : 8)); }, &cancel);
+        if (restores)
+            QVERIFY(restoreBackup(*content, store, Safely, watch).isCancelled);
+        else
+            QVERIFY(Profiles::create(u("out"), store, BackupReason::Person, {}, watch).isCancelled);
+        QVERIFY(cancel && !isWriting());
+        QVERIFY(!QFileInfo::exists(u("devConfig/restore")));
+        QCOMPARE(namesIn(u("out")).size(), 1);
+        QCOMPARE(configuration(), before);
+    }
+
 #ifndef Q_OS_WIN
     void killedAtAnyMoment_data()
     {

@@ -1,20 +1,35 @@
 #include "configurationstate.h"
 
+#include "model/backuprestore.h"
 #include "model/ifunctionmanager.h"
 
 #include <QCryptographicHash>
 #include <QFile>
+#include <QFileInfo>
 
 using vorlinmodel::AttributeId;
 using vorlinmodel::key_id_t;
 
 namespace {
 
-QByteArray hashOf(const QString &path)
+/// A video that came out of a backup bears its hash as its name. So the end of the program, which waits for a
+/// restore that is behind its exchange, does not wait for all videos to be read.
+QByteArray hashOf(const QString &path, const vorlinmodel::BackupWatch &watch)
 {
+    constexpr int sha1Size = 20;
+    const QFileInfo info(path);
+    const QByteArray named = QByteArray::fromHex(info.completeBaseName().toLatin1());
+    if (named.size() == sha1Size && info.path() == vorlinmodel::restoredVideoFolder())
+        return named;
     QFile file(path);
     QCryptographicHash hash(QCryptographicHash::Sha1);
-    return file.open(QIODevice::ReadOnly) && hash.addData(&file) ? hash.result() : QByteArray();
+    const bool isRead =
+        file.open(QIODevice::ReadOnly) && watch.inPieces(file.size(), [&](qint64, qint64 length) {
+            const QByteArray piece = file.read(length);
+            hash.addData(piece);
+            return piece.size() == length;
+        });
+    return isRead ? hash.result() : QByteArray();
 }
 
 /// @return @p state of before, with its video under the name that the same one has now.
@@ -27,13 +42,14 @@ KeyState withNameOf(KeyState state, const KeyState &now, bool sameVideo)
 
 } // namespace
 
-ConfigurationState captureConfiguration(const vorlinmodel::IFunctionManager &store)
+ConfigurationState captureConfiguration(const vorlinmodel::IFunctionManager &store,
+                                        const vorlinmodel::BackupWatch &watch)
 {
     ConfigurationState state;
     state.keys = captureKeyStates(store, store.getKeys().toVector());
     for (auto key = state.keys.cbegin(); key != state.keys.cend(); ++key) {
         if (key->record && isVideo(*key->record))
-            state.videos.insert(key.key(), hashOf(key->record->defaultImage));
+            state.videos.insert(key.key(), hashOf(key->record->defaultImage, watch));
     }
     for (const int layoutId : vorlinmodel::customLayoutIds()) {
         if (const auto layout = vorlinmodel::loadCustomLayout(layoutId))

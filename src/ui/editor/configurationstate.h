@@ -3,6 +3,7 @@
 
 #include "base/request.h"
 #include "keystate.h"
+#include "model/backupwatch.h"
 #include "model/customlayouts.h"
 #include "model/keyid.h"
 
@@ -17,8 +18,10 @@ struct ConfigurationState
     QMap<int, vorlinmodel::CustomLayout> layouts;
 };
 
-/// Reads every picture and video: takes a while. Any thread.
-ConfigurationState captureConfiguration(const vorlinmodel::IFunctionManager &store);
+/// Reads every picture, and every video that does not come from a backup: takes a while. Any thread. Lacks
+/// videos when @p watch gave it up.
+ConfigurationState captureConfiguration(const vorlinmodel::IFunctionManager &store,
+                                        const vorlinmodel::BackupWatch &watch = {});
 
 /// What one key of the panel is to be sent.
 struct KeyDifference

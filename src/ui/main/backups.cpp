@@ -97,9 +97,12 @@ void Backups::setDirectory(const QString &directory)
 
 void Backups::list()
 {
-    mWork.start([this, chosen = mChosen](const BackupWatch &) {
+    mWork.start([this, chosen = mChosen](const BackupWatch &watch) -> BackupWork::Delivery {
         const QString directory = usable(chosen);
-        const auto backups = Profiles::list(directory);
+        const auto backups = Profiles::list(directory, watch);
+        if (watch.isGivenUp())
+            return [] {
+            };
         return [this, directory, backups] {
             mDirectory = directory;
             mBackups = backups;
@@ -222,7 +225,7 @@ void Backups::open(const QString &folder)
               auto content = vorlinmodel::loadBackup(folder, watch.part(0, OpenPart));
               const auto present = content ? presentContent(store, watch.part(OpenPart, 100)) : std::nullopt;
               if (present) {
-                  opened.preview = previewRestore(*content, *present);
+                  opened.preview = previewRestore(*content, *present, watch.part(100, 100));
                   opened.error = present->error;
                   opened.content = std::make_shared<const vorlinmodel::BackupContent>(std::move(*content));
               }

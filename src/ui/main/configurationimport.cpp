@@ -158,8 +158,8 @@ void ConfigurationImport::replace(const Load &load, const RestoreOptions &option
     mWork.start([this, load, options, toPanel, finish, saved, pending, &store](const BackupWatch &watch) {
         saved.wait();
         Outcome outcome;
-        const ConfigurationState before = captureConfiguration(store);
-        const Content content = load(watch.part(0, LoadPart));
+        const ConfigurationState before = captureConfiguration(store, watch.still());
+        const Content content = watch.isGivenUp() ? nullptr : load(watch.part(0, LoadPart));
         outcome.result.isCancelled = !content;
         if (content) {
             // A kill behind the exchange leaves the panel with keys of before: noted beforehand.
