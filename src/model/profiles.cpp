@@ -3,6 +3,7 @@
 #include "backuplist.h"
 #include "backuptext.h"
 #include "base/log.h"
+#include "base/paths.h"
 #include "model/configbackup.h"
 #include "model/scriptcontainer.h"
 #include "model/wholefile.h"
@@ -211,6 +212,11 @@ void removeOldest(const QString &directory, BackupReason reason, const QString &
 }
 
 } // namespace
+
+QString usable(const QString &chosen)
+{
+    return !chosen.isEmpty() && QFileInfo(chosen).isDir() ? chosen : vorlindesk::Paths::devConfigFolder();
+}
 
 BackupResult create(const QString &directory, const IFunctionManager &store, BackupReason reason,
                     const QString &name, const BackupWatch &watch)

@@ -12,6 +12,10 @@ namespace vorlinmodel::Profiles {
 
 constexpr int Kept = 20; ///< automatic backups, and safety backups too, beyond which the oldest are removed
 
+/// The directory for backups: @p chosen, or "devConfig" when that is empty or on a disk that is not there
+/// now. Not for the user-interface thread: it may be on a network.
+QString usable(const QString &chosen);
+
 struct BackupResult
 {
     QString folder; ///< empty when none was made

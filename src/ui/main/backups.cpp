@@ -35,13 +35,6 @@ QString savedDirectory()
     return vorlindesk::IniFile(settingsFile())->value(DirectoryKey).toString();
 }
 
-/// The one chosen may be on a disk that is not there now. Not for the user-interface thread: it may be on a
-/// network, too.
-QString usable(const QString &chosen)
-{
-    return !chosen.isEmpty() && QFileInfo(chosen).isDir() ? chosen : Paths::devConfigFolder();
-}
-
 } // namespace
 
 Backups::Backups(EditorContext &context, QObject *parent)
@@ -51,6 +44,7 @@ Backups::Backups(EditorContext &context, QObject *parent)
     , mDirectory(mChosen.isEmpty() ? Paths::devConfigFolder() : mChosen)
     , mImport(context, mWork)
 {
+    mImport.setDirectory(mChosen);
     mContext.edits.store().setProfileDirectory(mChosen);
     mContext.edits.store().setExportDirectory(mChosen);
     mIdleTimer.setObjectName(QStringLiteral("idleTimer"));
@@ -92,13 +86,14 @@ void Backups::setDirectory(const QString &directory)
     IFunctionManager &store = mContext.edits.store();
     store.setProfileDirectory(mChosen);
     store.setExportDirectory(mChosen);
+    mImport.setDirectory(mChosen);
     list();
 }
 
 void Backups::list()
 {
     mWork.start([this, chosen = mChosen](const BackupWatch &watch) -> BackupWork::Delivery {
-        const QString directory = usable(chosen);
+        const QString directory = Profiles::usable(chosen);
         const auto backups = Profiles::list(directory, watch);
         if (watch.isGivenUp())
             return [] {
@@ -135,12 +130,17 @@ QString Backups::obstacle() const
 }
 
 /// What a person asks for goes before the automatic backup, which is tried again later.
+void Backups::giveUpAutomatic()
+{
+    if (mAutomatic != 0)
+        mWork.cancel(mAutomatic);
+}
+
 void Backups::begin(Activity activity, BackupWork::Task task)
 {
     mActivity = activity;
-    if (mIsAutomatic)
-        mWork.cancel();
-    mWork.start([this, task = std::move(task)](const BackupWatch &watch) {
+    giveUpAutomatic();
+    mTask = mWork.start([this, task = std::move(task)](const BackupWatch &watch) {
         const auto delivery = task(watch);
         return [this, delivery] {
             mActivity = Activity::None;
@@ -192,7 +192,7 @@ void Backups::create(BackupReason reason, const QString &name, Done done)
     mContext.edits.flush();
     const IFunctionManager &store = mContext.edits.store();
     begin(Activity::Creating, holding([=, this, chosen = mChosen, &store](const BackupWatch &watch) {
-              const auto result = Profiles::create(usable(chosen), store, reason, name, watch);
+              const auto result = Profiles::create(Profiles::usable(chosen), store, reason, name, watch);
               return [this, done, result] {
                   done(result);
                   list();
@@ -240,17 +240,16 @@ void Backups::import(const ConfigurationImport::Content &content, bool takesTheR
 {
     if (!obstacle().isEmpty())
         return;
-    if (mIsAutomatic)
-        mWork.cancel();
-    mImport.start(content, {.safetyDirectory = mDirectory, .takesTheRest = takesTheRest}, toPanel);
+    giveUpAutomatic();
+    mImport.start(content, takesTheRest, toPanel);
 }
 
 void Backups::cancel()
 {
-    if (mImport.isSending())
-        mImport.cancelSending();
+    if (mImport.isReplacing() || mImport.isSending())
+        mImport.cancel();
     else if (isBusy())
-        mWork.cancel();
+        mWork.cancel(mTask);
 }
 
 void Backups::setConnected(bool connected)
@@ -294,12 +293,11 @@ void Backups::tryAutomatic()
     if (!obstacle().isEmpty() || mWork.isBusy() || !mContext.edits.isLoaded())
         return;
     mIdleTimer.stop();
-    mIsAutomatic = true;
     const IFunctionManager &store = mContext.edits.store();
-    mWork.start(holding([this, chosen = mChosen, &store](const BackupWatch &watch) {
-        const auto result = Profiles::createAutomatic(usable(chosen), store, watch);
+    mAutomatic = mWork.start(holding([this, chosen = mChosen, &store](const BackupWatch &watch) {
+        const auto result = Profiles::createAutomatic(Profiles::usable(chosen), store, watch);
         return [this, result] {
-            mIsAutomatic = false;
+            mAutomatic = 0;
             if (result.isCancelled)
                 mIdleTimer.start();
             else if (!result.folder.isEmpty())

@@ -46,7 +46,7 @@ public:
     void remove(const QString &folder);
     void open(const QString &folder); ///< to be looked at; sigOpened follows
     void import(const ConfigurationImport::Content &content, bool takesTheRest, bool toPanel);
-    void cancel(); ///< what is under way, as far as possible
+    void cancel(); ///< the activity, as far as possible; never the listing
 
     Activity activity() const;
     bool isBusy() const { return activity() != Activity::None; }
@@ -86,6 +86,7 @@ private:
     void begin(Activity activity, BackupWork::Task task);
     BackupWork::Task holding(BackupWork::Task task);
     void create(vorlinmodel::BackupReason reason, const QString &name, Done done);
+    void giveUpAutomatic();
     void onIdle();
     void tryAutomatic();
 
@@ -94,6 +95,8 @@ private:
     QString mDirectory;
     QVector<vorlinmodel::BackupInfo> mBackups;
     Activity mActivity = Activity::None;
+    int mTask = 0;      ///< of the work, which may still wait
+    int mAutomatic = 0; ///< the task of the automatic backup that is under way; 0: none is
     int mPercent = 0;
     bool mConnected = false;
     bool mReading = false;
@@ -101,7 +104,6 @@ private:
     int mHolds = 0; ///< tasks that hold back the saving
     bool mHasStarted = false;
     bool mHasReadPanel = false;
-    bool mIsAutomatic = false; ///< such a backup is under way
     QTimer mIdleTimer{this};
     BackupWork mWork;
     ConfigurationImport mImport;

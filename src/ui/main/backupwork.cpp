@@ -2,6 +2,7 @@
 
 struct BackupWork::Job
 {
+    int number = 0;
     Task task;
     std::atomic<bool> isCancelled = false;
     std::mutex mutex; // guards the next one
@@ -14,22 +15,25 @@ BackupWork::BackupWork(QObject *parent)
 
 BackupWork::~BackupWork()
 {
-    cancel();
+    cancelRunning();
     if (mThread.joinable())
         mThread.join();
 }
 
-void BackupWork::start(Task task)
+int BackupWork::start(Task task)
 {
-    mWaiting.push_back(std::move(task));
+    const auto job = std::make_shared<Job>();
+    job->number = ++mLastNumber;
+    job->task = std::move(task);
+    mWaiting.push_back(job);
     if (!mpJob)
         startNext();
+    return job->number;
 }
 
 void BackupWork::startNext()
 {
-    const auto job = std::make_shared<Job>();
-    job->task = std::move(mWaiting.front());
+    const auto job = mWaiting.front();
     mWaiting.pop_front();
     mpJob = job;
     emit sigProgress(0);
@@ -50,7 +54,18 @@ void BackupWork::startNext()
     });
 }
 
-void BackupWork::cancel()
+/// One that waits has still to deliver that it was cancelled: it begins, and ends at once.
+void BackupWork::cancel(int task)
+{
+    if (mpJob && mpJob->number == task)
+        cancelRunning();
+    for (const auto &job : mWaiting) {
+        if (job->number == task)
+            job->isCancelled = true;
+    }
+}
+
+void BackupWork::cancelRunning()
 {
     if (mpJob)
         mpJob->isCancelled = true;
@@ -60,7 +75,7 @@ void BackupWork::finish()
 {
     while (mpJob) { // its delivery may start another
         mWaiting.clear();
-        cancel();
+        cancelRunning();
         const auto job = mpJob; // which deliver() lets go
         deliver(job);
     }

@@ -25,8 +25,8 @@ public:
     explicit BackupWork(QObject *parent = nullptr);
     ~BackupWork() override; ///< waits for the task that runs, which is cancelled; delivers nothing more
 
-    void start(Task task);
-    void cancel(); ///< the task that runs; it may be too late
+    int start(Task task);  ///< @return its number
+    void cancel(int task); ///< whether it runs or waits; it may be too late
     /// At the end of the program: cancels the task that runs, waits for it and delivers its result now. Those
     /// that wait are dropped.
     void finish();
@@ -40,10 +40,12 @@ private:
     struct Job;
 
     void startNext();
+    void cancelRunning();
     void deliver(const std::shared_ptr<Job> &job); ///< not mpJob itself
 
-    std::deque<Task> mWaiting;
-    std::shared_ptr<Job> mpJob;
+    int mLastNumber = 0;
+    std::deque<std::shared_ptr<Job>> mWaiting;
+    std::shared_ptr<Job> mpJob; ///< that runs
     std::thread mThread;
     vorlindesk::HandOver mHandOver;
 };

@@ -5,6 +5,7 @@
 #include "base/language.h"
 #include "base/systemsettings.h"
 #include "model/ifunctionmanager.h"
+#include "model/profiles.h"
 #include "protocol/iprotocolthread.h"
 #include "restorecommand.h"
 #include "scripttransfer.h"
@@ -21,8 +22,8 @@ using vorlinmodel::BackupWatch;
 using vorlinmodel::IFunctionManager;
 using vorlinmodel::key_id_t;
 using vorlinmodel::RequestOutcome;
-using vorlinmodel::RestoreOptions;
 using vorlinmodel::RestoreResult;
+namespace Profiles = vorlinmodel::Profiles;
 
 namespace {
 
@@ -91,14 +92,16 @@ bool ConfigurationImport::isSending() const
     return mpTransfer->isUnderWay();
 }
 
-void ConfigurationImport::cancelSending()
+void ConfigurationImport::cancel()
 {
-    mpTransfer->cancel();
+    if (isSending())
+        mpTransfer->cancel();
+    else
+        mWork.cancel(mTask);
 }
 
-void ConfigurationImport::start(const Content &content, const RestoreOptions &options, bool toPanel)
+void ConfigurationImport::start(const Content &content, bool takesTheRest, bool toPanel)
 {
-    mSafetyDirectory = options.safetyDirectory;
     const auto finish = [this, name = content->info.name](const RestoreResult &result) {
         if (!result.isDone)
             return emit sigFailed(result.error);
@@ -107,7 +110,7 @@ void ConfigurationImport::start(const Content &content, const RestoreOptions &op
             new RestoreCommand(*this, tr("Import of a backup"), step));
         emit sigImported(name, result.leftOut);
     };
-    replace([content](const BackupWatch &) { return content; }, options, toPanel, finish);
+    replace([content](const BackupWatch &) { return content; }, takesTheRest, toPanel, finish);
 }
 
 /// A step that cannot be taken leaves the history where it was.
@@ -143,11 +146,10 @@ void ConfigurationImport::walk(const std::shared_ptr<RestoreStep> &step, bool fo
         }
         takeBack(step, forward, result.isCancelled ? QString() : result.error);
     };
-    replace(load, {.safetyDirectory = mSafetyDirectory, .takesTheRest = false}, false, finish);
+    replace(load, false, false, finish);
 }
 
-void ConfigurationImport::replace(const Load &load, const RestoreOptions &options, bool toPanel,
-                                  const Finish &finish)
+void ConfigurationImport::replace(const Load &load, bool takesTheRest, bool toPanel, const Finish &finish)
 {
     const auto saved = mContext.edits.beginReplace();
     const QVector<key_id_t> pending = mContext.edits.pending().keys();
@@ -155,7 +157,7 @@ void ConfigurationImport::replace(const Load &load, const RestoreOptions &option
     mReplacing = true;
     emit sigReplacing(true);
     IFunctionManager &store = mContext.edits.store();
-    mWork.start([this, load, options, toPanel, finish, saved, pending, &store](const BackupWatch &watch) {
+    mTask = mWork.start([=, this, chosen = mDirectory, &store](const BackupWatch &watch) {
         saved.wait();
         Outcome outcome;
         const ConfigurationState before = captureConfiguration(store, watch.still());
@@ -165,7 +167,9 @@ void ConfigurationImport::replace(const Load &load, const RestoreOptions &option
             // A kill behind the exchange leaves the panel with keys of before: noted beforehand.
             PendingEdits::saveWhole(before.keys.keys().toVector() + pending + keysOf(content->script));
             PendingLayouts::saveWhole(before.layouts.keys().toVector() + layoutsOf(*content));
-            outcome.result = restoreBackup(*content, store, options, watch.part(LoadPart, 100));
+            outcome.result = restoreBackup(
+                *content, store, {.safetyDirectory = Profiles::usable(chosen), .takesTheRest = takesTheRest},
+                watch.part(LoadPart, 100));
         }
         if (outcome.result.isDone) {
             const ConfigurationState after = captureConfiguration(store);

@@ -34,11 +34,13 @@ public:
 
     /// @p toPanel: the panel gets the whole configuration at once; else, and when that fails, it gets what
     /// differs as it gets edits: now, or when it comes.
-    void start(const Content &content, const vorlinmodel::RestoreOptions &options, bool toPanel);
+    void start(const Content &content, bool takesTheRest, bool toPanel);
     bool isReplacing() const { return mReplacing; } ///< the store is not the person's
     bool isSending() const;                         ///< the whole configuration, to the panel
-    void cancelSending();
+    void cancel(); ///< the one that is carried out or sent, as far as possible
     void setConnected(bool connected) { mConnected = connected; }
+    /// That the person has chosen for backups; the next safety backup is made there, if it can be used.
+    void setDirectory(const QString &chosen) { mDirectory = chosen; }
     /// Says why an undo or redo cannot be carried out now, for the person; empty when it can.
     void setObstacle(std::function<QString()> obstacle) { mObstacle = std::move(obstacle); }
 
@@ -58,8 +60,7 @@ private:
 
     void walk(const std::shared_ptr<RestoreStep> &step, bool forward);
     void takeBack(const std::shared_ptr<RestoreStep> &step, bool forward, const QString &problem);
-    void replace(const Load &load, const vorlinmodel::RestoreOptions &options, bool toPanel,
-                 const Finish &finish);
+    void replace(const Load &load, bool takesTheRest, bool toPanel, const Finish &finish);
     void take(const Outcome &outcome, bool toPanel);
     static QString notTaken();
     void sendScript(const Outcome &outcome);
@@ -69,8 +70,9 @@ private:
     BackupWork &mWork;
     ScriptTransfer *mpTransfer;
     std::function<QString()> mObstacle;
-    QString mSafetyDirectory;
+    QString mDirectory;
     QVector<vorlinmodel::key_id_t> mCovered; ///< by the script that is sent
+    int mTask = 0;                           ///< of the work
     bool mConnected = false;
     bool mReplacing = false;
 };
