@@ -1036,6 +1036,10 @@
         <source>Cancel the video</source>
         <translation>Cancel the video</translation>
     </message>
+    <message>
+        <source>A backup is being imported. Nothing was changed.</source>
+        <translation>A backup is being imported. Nothing was changed.</translation>
+    </message>
 </context>
 <context>
     <name>KeyWidget</name>
@@ -2285,6 +2289,10 @@ What is on this computer is saved as a backup first. “Undo” in the editor br
     <message>
         <source>Addresses for a panel in a network. They are only written into the log: panels have no command for them yet.</source>
         <translation>Addresses for a panel in a network. They are only written into the log: panels have no command for them yet.</translation>
+    </message>
+    <message>
+        <source>A backup is being imported.</source>
+        <translation>A backup is being imported.</translation>
     </message>
 </context>
 <context>

@@ -1036,6 +1036,10 @@
         <source>Cancel the video</source>
         <translation>取消视频</translation>
     </message>
+    <message>
+        <source>A backup is being imported. Nothing was changed.</source>
+        <translation>正在导入备份。未作任何更改。</translation>
+    </message>
 </context>
 <context>
     <name>KeyWidget</name>
@@ -2285,6 +2289,10 @@ What is on this computer is saved as a backup first. “Undo” in the editor br
     <message>
         <source>Addresses for a panel in a network. They are only written into the log: panels have no command for them yet.</source>
         <translation>网络中面板的地址。仅写入日志：面板目前还没有相应的命令。</translation>
+    </message>
+    <message>
+        <source>A backup is being imported.</source>
+        <translation>正在导入备份。</translation>
     </message>
 </context>
 <context>

@@ -1036,6 +1036,10 @@
         <source>Cancel the video</source>
         <translation>取消影片</translation>
     </message>
+    <message>
+        <source>A backup is being imported. Nothing was changed.</source>
+        <translation>正在匯入備份。未做任何變更。</translation>
+    </message>
 </context>
 <context>
     <name>KeyWidget</name>
@@ -2285,6 +2289,10 @@ What is on this computer is saved as a backup first. “Undo” in the editor br
     <message>
         <source>Addresses for a panel in a network. They are only written into the log: panels have no command for them yet.</source>
         <translation>網路中面板的位址。僅寫入記錄檔：面板目前還沒有相應的命令。</translation>
+    </message>
+    <message>
+        <source>A backup is being imported.</source>
+        <translation>正在匯入備份。</translation>
     </message>
 </context>
 <context>

@@ -304,6 +304,20 @@ private slots:
         QCOMPARE(window.fixture.takeRequests(), QStringList({sent(16, 14)}));
         window.edits().undo();
         QCOMPARE(second->currentText(), QString());
+        QTest::keyClicks(second, "F5"_s); // not confirmed when what comes next begins
+        window.edits().undo();
+        QCOMPARE(window.edits().history().redoText(), "Key combination"_s);
+        QTest::keyClicks(second, "F5"_s);
+        window.edits().beginReplace();
+        QCOMPARE(window.record().strAppOrUrl, "Left Ctrl#F5#C"_s);
+        window.find("title")->setFocus();
+        QSignalSpy problems(&window.edits(), &KeyEdits::sigProblem);
+        window.edits().undo();
+        QTest::keyClicks(window.find("title"), "x"_s);
+        QCOMPARE(window.record().strTitle, QString());
+        QCOMPARE(window.record().strAppOrUrl, "Left Ctrl#F5#C"_s);
+        QCOMPARE(problems.size(), 2); // both are refused
+        window.edits().endReplace({}, false);
     }
 
     void combinationIsCaptured()

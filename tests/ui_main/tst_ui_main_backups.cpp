@@ -554,6 +554,30 @@ private slots:
         QCOMPARE(f.language.language(), 0);
     }
 
+    /// While one is under way, nothing else changes the configuration.
+    void duringAnImport()
+    {
+        BackupsFixture f(Panel::None);
+        f.fill();
+        f.press("createBackup");
+        QTRY_COMPARE(f.list()->topLevelItemCount(), 1);
+        f.changeAll();
+        f.import("importToHost");
+        f.edits().undo();
+        QVERIFY(f.backups().isBusy());
+        for (const char *name : {"language1", "autoSyncEnable", "resetAll"})
+            QVERIFY2(!f.frame->findChild<QWidget *>(QLatin1String(name))->isEnabled(), name);
+        QCOMPARE(f.frame->findChild<QWidget *>("language1"_s)->toolTip(), "A backup is being imported."_s);
+        QVERIFY(f.editor().layouts.remove(2).startsWith("A backup is being imported."_s));
+        QVERIFY(loadCustomLayout(2));
+        f.edits().place("Late"_s, {{Web, {}}});
+        QVERIFY(f.store.getKeyAttribute(Web));
+        QTRY_VERIFY(!f.backups().isBusy());
+        for (const char *name : {"language1", "autoSyncEnable"})
+            QVERIFY2(f.frame->findChild<QWidget *>(QLatin1String(name))->isEnabled(), name);
+        QCOMPARE(f.edits().history().redoText(), "Import of a backup"_s);
+    }
+
     void backupsAtStartUp()
     {
         BackupsFixture f(Panel::None);

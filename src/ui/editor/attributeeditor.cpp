@@ -67,6 +67,7 @@ bool AttributeEditor::setup()
     layout->addLayout(top);
     layout->addWidget(mpPages, 1);
     connect(&mContext.edits, &KeyEdits::sigKeysChanged, this, &AttributeEditor::onKeysChanged);
+    connect(&mContext.edits, &KeyEdits::sigCommit, mpContent, &ContentEditor::commit);
     retranslate();
     return true;
 }

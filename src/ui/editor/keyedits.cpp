@@ -108,6 +108,8 @@ KeyEdits::States KeyEdits::capture(const QVector<key_id_t> &keys) const
 void KeyEdits::change(const QString &text, const QVector<key_id_t> &keys, const std::function<void()> &change)
 {
     if (mDepth == 0) {
+        if (refuses())
+            return;
         flush();
         mBefore.clear();
     }
@@ -150,6 +152,8 @@ void KeyEdits::push(const QString &text, const States &before)
 void KeyEdits::changeAtRest(const QString &text, const key_id_t &key, AttributeId attribute,
                             const std::function<void()> &apply)
 {
+    if (refuses())
+        return;
     if (mAtRest && (mAtRest->key != key || mAtRest->attribute != attribute))
         flush();
     if (!mAtRest)
@@ -260,12 +264,18 @@ void KeyEdits::send(const key_id_t &key, int fid, AttributeId attribute)
 
 void KeyEdits::undo()
 {
+    if (refuses())
+        return;
+    emit sigCommit();
     flush();
     mHistory.undo();
 }
 
 void KeyEdits::redo()
 {
+    if (refuses())
+        return;
+    emit sigCommit();
     flush();
     mHistory.redo();
 }

@@ -76,7 +76,7 @@ public:
     /// of a video is cancelled, the video that the panel still has comes back into the store.
     void send(const vorlinmodel::key_id_t &key, int fid, vorlinmodel::AttributeId attribute);
 
-    void undo(); ///< flushes first
+    void undo(); ///< takes what is typed and flushes first
     void redo();
 
     /// The panel came: queues what it has not taken. During a read, which has overwritten it, once that is
@@ -108,6 +108,9 @@ public:
     void endReplace(const QVector<KeyDifference> &changed, bool send);
     void panelTook(const QVector<vorlinmodel::key_id_t> &keys); ///< whole, not as edits
 
+    /// Why nothing can be edited now, for the person; empty when it can. Edits, undo and redo are then
+    /// refused with sigProblem. Not during a read, whose end keeps what is edited meanwhile.
+    QString obstacle() const;
     /// The store is not the person's: between beginRead() and endRead(), or while it is replaced.
     bool isReading() const { return mReading || mReplacing; }
 
@@ -116,6 +119,8 @@ signals:
     void sigKeysChanged(const QVector<vorlinmodel::key_id_t> &keys);
     /// The keys that undo or redo changed: they should come into view.
     void sigStepApplied(const QVector<vorlinmodel::key_id_t> &keys);
+    /// Fields take what is typed and not confirmed yet, by a change() of their own.
+    void sigCommit();
     void sigReadEnded();                                   ///< the store is the person's again
     void sigMarkChanged(const vorlinmodel::key_id_t &key); ///< see pending()
     void sigProblem(const QString &text);                  ///< for the person, in plain words
@@ -135,6 +140,7 @@ private:
     void connectProtocolThread(vorlinmodel::IProtocolThread &thread);
     void requestDone(const vorlinmodel::key_id_t &key, vorlinmodel::AttributeId attribute,
                      vorlinmodel::RequestOutcome outcome);
+    bool refuses();
     States capture(const QVector<vorlinmodel::key_id_t> &keys) const;
     void push(const QString &text, const States &before);
     void applyStep(const QVector<KeyPlacement> &placements);

@@ -5,8 +5,22 @@
 using vorlinmodel::AttributeId;
 using vorlinmodel::key_id_t;
 
+QString KeyEdits::obstacle() const
+{
+    return mReplacing ? tr("A backup is being imported. Nothing was changed.") : QString();
+}
+
+/// Also what was begun before and comes late, a picture that is read say: it would fall between two states.
+bool KeyEdits::refuses()
+{
+    if (mReplacing)
+        emit sigProblem(obstacle());
+    return mReplacing;
+}
+
 std::shared_future<void> KeyEdits::beginReplace()
 {
+    emit sigCommit();
     flush();
     mReplacing = true;
     return mFiles.hold();

@@ -164,6 +164,8 @@ QString LayoutEdits::duplicate(int layoutId, const QString &name, int *newId)
 QString LayoutEdits::change(const QString &text, const std::optional<CustomLayout> &before,
                             const std::optional<CustomLayout> &after, const LayoutMoves &moves)
 {
+    if (const QString obstacle = mEdits.obstacle(); !obstacle.isEmpty())
+        return obstacle;
     if (!moves.isComplete)
         return tr("The pictures of the background could not be saved. Is the disk full?");
     const int layoutId = after ? after->layoutId : before->layoutId;

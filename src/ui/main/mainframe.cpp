@@ -250,8 +250,10 @@ void MainFrame::allowEdits()
         mpLayoutPage->setEnabled(mayEdit);
     if (mpPictureUpload)
         mpPictureUpload->setEnabled(!isReplacing); // a read it waits for by itself
-    if (mpSystemSettings)
-        mpSystemSettings->setReading(!mayEdit);
+    if (mpSystemSettings) {
+        mpSystemSettings->setReading(mReading);
+        mpSystemSettings->setImporting(isReplacing);
+    }
 }
 
 void MainFrame::showDeviceValue(int code, const QString &value)

@@ -41,16 +41,20 @@ constexpr int code(FunctionCode functionCode)
 /// on, it would scroll the page to another one.
 void SystemSettingsPage::enableUnless(QWidget *control, const QString &reason)
 {
-    if (!reason.isEmpty() && window()->focusWidget() == control) { // has it, or gets it when a box has gone
-        mpWaitingForFocus = control;
+    const auto isIn = [control](const QWidget *part) { // it, or one of a group
+        return part == control || control->isAncestorOf(part);
+    };
+    QWidget *focused = window()->focusWidget(); // has it, or gets it when a box has gone
+    if (!reason.isEmpty() && isIn(focused)) {
+        mpWaitingForFocus = focused;
         setFocus();
     }
     control->setEnabled(reason.isEmpty());
     control->setToolTip(reason);
-    if (reason.isEmpty() && control == mpWaitingForFocus) {
-        mpWaitingForFocus = nullptr;
+    if (reason.isEmpty() && mpWaitingForFocus && isIn(mpWaitingForFocus)) {
+        QWidget *waiting = std::exchange(mpWaitingForFocus, nullptr);
         if (window()->focusWidget() == this)
-            control->setFocus();
+            waiting->setFocus();
     }
 }
 
@@ -76,6 +80,17 @@ void SystemSettingsPage::setReading(bool reading)
 {
     mReading = reading;
     showActions();
+}
+
+void SystemSettingsPage::setImporting(bool importing)
+{
+    mImporting = importing;
+    showActions();
+}
+
+QString SystemSettingsPage::importing() const
+{
+    return mImporting ? tr("A backup is being imported.") : QString();
 }
 
 void SystemSettingsPage::showVersions()
@@ -126,7 +141,7 @@ QString SystemSettingsPage::whyNotNow() const
         return tr("The panel is not connected.");
     if (mReset.isBusy())
         return tr("The panel is being cleared.");
-    return mReading ? tr("The panel is being read.") : QString();
+    return mReading ? tr("The panel is being read.") : importing();
 }
 
 /// A firmware update waits for a panel, and may bring one back that answers nothing else; the network
@@ -136,7 +151,10 @@ void SystemSettingsPage::showActions()
     const QString noPanel = mConnected ? QString() : tr("The panel is not connected.");
     const QString clearing = mReset.isBusy() ? tr("The panel is being cleared.") : QString();
     enableUnless(mpSystemType, noPanel);
-    enableUnless(mpHomeLayout, noPanel);
+    enableUnless(mpHomeLayout, noPanel.isEmpty() ? importing() : noPanel);
+    enableUnless(mpSwitches, importing());
+    for (QRadioButton *language : qAsConst(mLanguages))
+        enableUnless(language, importing());
     for (const char *name : {"formatCard", "resetAll"})
         enableUnless(action(name), whyNotNow());
     enableUnless(action("fontLibrary"), noPanel.isEmpty() ? clearing : noPanel);

@@ -42,6 +42,8 @@ public:
     /// known.
     void showPanel(bool connected, int homeLayout);
     void setReading(bool reading); ///< the panel's configuration is being read, and cannot be cleared
+    void
+    setImporting(bool importing); ///< a backup takes the place of the settings, which nobody changes then
     void retranslate();
 
 signals:
@@ -67,6 +69,7 @@ private:
     void fillSystemTypes();
     void showActions();
     QString whyNotNow() const;
+    QString importing() const;
     void enableUnless(QWidget *control, const QString &reason);
 
     struct Action
@@ -85,6 +88,7 @@ private:
     int mHomeLayout = 0;
     bool mConnected = false;
     bool mReading = false;
+    bool mImporting = false;
     QWidget *mpWaitingForFocus = nullptr;
 
     QLabel *mpCaption;
