@@ -1,6 +1,23 @@
 // What the editor page offers around the keys: tools, shortcuts, the function list, the editors of a key.
 #include "pagefixture.h"
 
+namespace {
+
+void dragKey(PageFixture &fixture, const key_id_t &source, int target, Qt::KeyboardModifiers modifiers)
+{
+    QByteArray bytes;
+    QDataStream(&bytes, QIODevice::WriteOnly) << source.lid << source.pageid << source.kid;
+    QMimeData data;
+    data.setData("application/x-vorlindesk-key"_s, bytes);
+    const auto actions = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter(QPoint(5, 5), actions, &data, Qt::LeftButton, modifiers);
+    QCoreApplication::sendEvent(fixture.cell(target), &enter);
+    QDropEvent drop(QPointF(5, 5), actions, &data, Qt::LeftButton, modifiers);
+    QCoreApplication::sendEvent(fixture.cell(target), &drop);
+}
+
+} // namespace
+
 class ToolsTest : public QObject
 {
     Q_OBJECT
@@ -32,6 +49,33 @@ private slots:
         fixture.keys("Ctrl+V");
         QCOMPARE(fixture.fid({1, 7, 15}), Return);
         QCOMPARE(fixture.editor().edits.history().count(), 1);
+    }
+
+    void draggedChildPageGetsItsWayBack_data()
+    {
+        QTest::addColumn<bool>("copy");
+        QTest::addColumn<int>("returnKey"); // what is on the key where the way back goes
+        QTest::addColumn<QString>("notice");
+        QTest::newRow("moved") << false << 0 << QString();
+        QTest::newRow("copied") << true << 0 << QString();
+        QTest::newRow("no room for it")
+            << false << Play << "Page 7 has no key that leads back, and key 15 there is not free."_s;
+    }
+
+    void draggedChildPageGetsItsWayBack()
+    {
+        QFETCH(bool, copy);
+        QFETCH(int, returnKey);
+        PageFixture fixture(withKeys({{{1, 1, 2}, Child}, {{1, 3, 15}, Return}}));
+        if (returnKey != 0)
+            fixture.store.createKeyAttribute({1, 7, 15}, returnKey);
+        dragKey(fixture, {1, 1, 2}, 6, copy ? Qt::ControlModifier : Qt::NoModifier);
+        QCOMPARE(fixture.fid({1, 1, 6}), Child);
+        QCOMPARE(fixture.fid({1, 7, 15}), returnKey != 0 ? returnKey : Return);
+        QTEST(fixture.notice(), "notice");
+        QCOMPARE(fixture.editor().edits.history().count(), 1);
+        fixture.keys("Ctrl+Z"); // the way back was part of the step
+        QCOMPARE(fixture.fid({1, 7, 15}), returnKey);
     }
 
     void fieldsKeepTheirShortcuts()

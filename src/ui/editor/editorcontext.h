@@ -46,4 +46,8 @@ struct EditorContext
     /// @p remove inside one step of the history, or not at all.
     std::function<void(const QVector<vorlinmodel::key_id_t> &keys, const std::function<void()> &remove)>
         deleteKeys;
+
+    /// Set by the page. Whoever gives keys whole states calls this when it is set, within the same change():
+    /// child-page keys among them get their way back, and the person hears what there is to know.
+    std::function<void(const QVector<KeyPlacement> &placed)> completeChildPages;
 };

@@ -77,11 +77,15 @@ KeyCommands::KeyCommands(EditorContext &context, Ask ask, QObject *parent)
     mContext.deleteKeys = [this](const QVector<key_id_t> &keys, const std::function<void()> &removeKeys) {
         deleteKeys(keys, removeKeys);
     };
+    mContext.completeChildPages = [this](const QVector<KeyPlacement> &placed) {
+        notify(completeChildPages(childPageKeys(placed)));
+    };
 }
 
 KeyCommands::~KeyCommands()
 {
     mContext.deleteKeys = {};
+    mContext.completeChildPages = {};
 }
 
 void KeyCommands::copy(KeyboardWidget &grid)

@@ -11,8 +11,8 @@
 class KeyboardWidget;
 struct EditorContext;
 
-/// Each operation is one step of the history. While an object of this class lives, the context's deleteKeys
-/// is answered by it. @p context outlives it.
+/// Each operation is one step of the history. While an object of this class lives, it answers the context's
+/// deleteKeys and completeChildPages. @p context outlives it.
 class KeyCommands : public QObject
 {
     Q_OBJECT

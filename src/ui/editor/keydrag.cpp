@@ -1,7 +1,6 @@
 #include "keydrag.h"
 
 #include "editorcontext.h"
-#include "keyedits.h"
 #include "model/functionids.h"
 #include "vorlinmimedata.h"
 
@@ -84,8 +83,9 @@ bool KeyDrag::isCopy(const QDropEvent &event)
            !event.possibleActions().testFlag(Qt::MoveAction);
 }
 
-void KeyDrag::dropKey(KeyEdits &edits, const key_id_t &source, const key_id_t &target, bool copy)
+void KeyDrag::dropKey(EditorContext &context, const key_id_t &source, const key_id_t &target, bool copy)
 {
+    KeyEdits &edits = context.edits;
     edits.flush(); // what is being typed goes with the key
     const KeyState from = captureKeyState(edits.store(), source);
     if (source == target || !from.record)
@@ -95,5 +95,9 @@ void KeyDrag::dropKey(KeyEdits &edits, const key_id_t &source, const key_id_t &t
     if (!copy)
         placements.append({source, to});
     placements.append({target, from});
-    edits.place(nameOfStep(copy, to.record.has_value()), placements);
+    edits.change(nameOfStep(copy, to.record.has_value()), placedKeys(placements), [&] {
+        edits.apply(placements);
+        if (context.completeChildPages)
+            context.completeChildPages(placements);
+    });
 }

@@ -6,9 +6,9 @@
 #include <QString>
 #include <optional>
 
-class KeyEdits;
 class QDropEvent;
 class QMimeData;
+struct EditorContext;
 
 namespace KeyDrag {
 
@@ -27,9 +27,10 @@ QString pictureFileOf(const QMimeData &data);
 /// Whether the drag copies: with Ctrl, or when its source offers nothing else.
 bool isCopy(const QDropEvent &event);
 
-/// Moves @p source onto @p target, or swaps the two when both have a function; or copies it. One step.
-/// Nothing happens when both are the same key, or @p source has no function.
-void dropKey(KeyEdits &edits, const vorlinmodel::key_id_t &source, const vorlinmodel::key_id_t &target,
+/// Moves @p source onto @p target, or swaps the two when both have a function; or copies it. One step,
+/// in which a child page gets its way back. Nothing happens when both are the same key, or @p source has no
+/// function.
+void dropKey(EditorContext &context, const vorlinmodel::key_id_t &source, const vorlinmodel::key_id_t &target,
              bool copy);
 
 } // namespace KeyDrag

@@ -66,7 +66,7 @@ public:
                       vorlinmodel::AttributeId attribute, const std::function<void()> &apply);
     void flush(); ///< ends such a change now
 
-    /// One step that gives each key a state: paste, move, swap, copy. A key named twice gets the last one.
+    /// One step that gives each key a state. A key named twice gets the last one.
     void place(const QString &text, const QVector<KeyPlacement> &placements);
 
     /// Sets a key's state in store and files, and sends what differs; not a step by itself.

@@ -163,7 +163,7 @@ void KeyWidget::dropEvent(QDropEvent *event)
         return takePicture(pair.strData1, pair.strData2);
     }
     if (const auto source = KeyDrag::keyOf(mime))
-        return KeyDrag::dropKey(mContext.edits, *source, key_id_, KeyDrag::isCopy(*event));
+        return KeyDrag::dropKey(mContext, *source, key_id_, KeyDrag::isCopy(*event));
     const QString file = KeyDrag::pictureFileOf(mime);
     if (mFId != 0 && !file.isEmpty())
         return takePicture(file, {});
