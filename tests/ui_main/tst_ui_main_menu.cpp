@@ -131,6 +131,24 @@ private slots:
         QVERIFY(!home->isVisible());
     }
 
+    void homeButtonStaysWhenThePersonDoes()
+    {
+        mpContext->store.createKeyAttribute(1, 4, 2, 4);
+        editor()->onKeyBtnClicked({1, 1, 3}, 18, true);
+        editor()->onKeyBtnClicked({1, 4, 2}, 4, true);
+        mpWidget->findChild<MultiActionWidget *>()->addStep(6);
+        QMessageBox::StandardButton answer = QMessageBox::Cancel;
+        MessageBox::setAnswer([&](const QMessageBox &) { return answer; });
+        auto *home = child<QPushButton>("homeButton");
+        home->click();
+        QVERIFY(home->isVisible());
+        QCOMPARE(editor()->curPageId(), 4);
+        answer = QMessageBox::Discard;
+        home->click();
+        QVERIFY(!home->isVisible());
+        QCOMPARE(editor()->curPageId(), 1);
+    }
+
     void unsavedStepsAreAskedAboutBeforeThePageIsLeft()
     {
         mpContext->store.createKeyAttribute(1, 1, 4, 4);

@@ -216,8 +216,8 @@ void MainFrame::showHomeButton()
 
 void MainFrame::slotShowHomeLayout()
 {
-    mpHomeButton->hide();
     mpFunctionConfig->returnToMain();
+    showHomeButton(); // the person may have stayed, with steps that are not saved
 }
 
 void MainFrame::takeGalleryItem(const QString &picture, const QString &video)
