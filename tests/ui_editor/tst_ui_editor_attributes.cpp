@@ -97,6 +97,7 @@ class AttributesTest : public QObject
     Q_OBJECT
     using PicksTable = Table<QString, int, int>;
     using LimitsTable = Table<int, QString, QString, QString, QString>;
+    using PastedTable = Table<int, QString, QString, QString>;
     using NamesTable = Table<int, quint32, quint32, QString>;
     using ChosenTable = Table<bool, QStringList>;
 
@@ -220,6 +221,36 @@ private slots:
         QCOMPARE(window.find<QLabel>("attributeNotice")->text().isEmpty(), fits);
         window.attributes.showKey(Key);
         QCOMPARE(window.record(), record);
+    }
+
+    void pastedLinesLoseWhatCannotBeSeen_data()
+    {
+        const PastedTable row;
+        row("line end behind an address", 3, "webAddress", "https://a.test/x\r\n", "https://a.test/x");
+        row("blank before an address", 3, "webAddress", " https://a.test/x", "https://a.test/x");
+        row("address over two lines", 3, "webAddress", "https://a.test/\nx y", "https://a.test/x y");
+        row("path", 2, "path", "\tC:\\Program Files\\a.exe \n", "C:\\Program Files\\a.exe");
+        row("text output stays as it is", 15, "outputText", " a\n", " a\n");
+    }
+
+    void pastedLinesLoseWhatCannotBeSeen()
+    {
+        const auto [fid, field, text, stored] = PastedTable::current();
+        Window window(fid);
+        window.paste(field.toLatin1().constData(), text);
+        QCOMPARE(window.record().strAppOrUrl, stored);
+    }
+
+    /// The blank at the end of what is typed so far may stand between two words soon.
+    void typedBlanksWaitForTheNextWord()
+    {
+        Window window(2);
+        auto *field = window.find<QLineEdit>("path");
+        field->setFocus();
+        QTest::keyClicks(field, "/a b "_s);
+        QCOMPARE(window.record().strAppOrUrl, "/a b"_s);
+        QTest::keyClicks(field, "c"_s);
+        QCOMPARE(window.record().strAppOrUrl, "/a b c"_s);
     }
 
     void charactersWithoutShapeAreNamedByNumber()

@@ -211,7 +211,9 @@ private slots:
         FileDialog::setAnswer([](const QString &) { return QStringList("/tmp/a b"_s); });
         QTest::mouseClick(editor.part<QToolButton>(0, "choose"), Qt::LeftButton);
         FileDialog::setAnswer({});
-        QTest::keyClicks(editor.part<QLineEdit>(1), "http://a"_s);
+        QTest::keyClicks(editor.part<QLineEdit>(0), " c"_s); // the blank comes first, at the end
+        QApplication::clipboard()->setText(" http://a\n"_s);
+        editor.part<QLineEdit>(1)->paste();
         auto *text = editor.part<QPlainTextEdit>(2);
         text->setFocus();
         QTest::keyClicks(text, "x"_s);
@@ -226,7 +228,7 @@ private slots:
         third->setCurrentText("F5"_s);
         keys->findChild<QComboBox *>("key1"_s)->setCurrentIndex(0);
         QCOMPARE(editor.steps(),
-                 Steps({step(2, QDir::toNativeSeparators("/tmp/a b"_s)), step(3, "http://a"_s),
+                 Steps({step(2, QDir::toNativeSeparators("/tmp/a b c"_s)), step(3, "http://a"_s),
                         step(15, "x\ny\n"_s), step(16, "C#F5"_s), step(100)}));
         QTest::keyClick(text, Qt::Key_Z, Qt::ControlModifier); // the list's undo, also from within a field
         QCOMPARE(editor.steps().at(3).url, "Left Ctrl#undefine#C#"_s);

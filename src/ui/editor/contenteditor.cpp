@@ -66,6 +66,7 @@ ContentEditor::ContentEditor(EditorContext &context, QWidget *parent)
     addWidget(mpKeys);
     mpOpen->setObjectName(QStringLiteral("choosePath"));
     mpPath->addBeside(mpOpen);
+    mpAddress->setPlaceholder(QStringLiteral("https://"));
     addVideo();
     connect(mpOpen, &QPushButton::clicked, this, &ContentEditor::choosePath);
     connect(mpKeys, &CombinationField::sigPicked, this, &ContentEditor::onKeys);

@@ -152,7 +152,7 @@ QWidget *LimitedText::field() const
 QString LimitedText::text() const
 {
     if (mpLine)
-        return mpLine->text();
+        return TextLimit::singleLine(mpLine->text());
     if (mEncoding == TextLimit::Encoding::TextOutput)
         return TextLimit::typedText(*mpParagraph->document());
     return mpParagraph->toPlainText(); // GBK has no no-break space

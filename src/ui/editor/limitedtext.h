@@ -17,7 +17,7 @@ class LimitedText : public QWidget
     Q_OBJECT
 public:
     enum class Form {
-        Line,
+        Line,      ///< hands on what TextLimit::singleLine() leaves
         Paragraph, ///< several lines; grows with the room there is
     };
 

@@ -113,7 +113,8 @@ QWidget *StepRow::makeLine(bool path)
 {
     auto *line = new QLineEdit(this);
     line->setAcceptDrops(false); // steps are dropped on the list, also when a field is below the pointer
-    connect(line, &QLineEdit::textEdited, this, &StepRow::edit);
+    connect(line, &QLineEdit::textEdited, this,
+            [this](const QString &typed) { edit(TextLimit::singleLine(typed)); });
     if (path) {
         mpChoose = makeButton("choose", "", this);
         mpChoose->setText(QStringLiteral("\u2026"));
@@ -195,7 +196,8 @@ void StepRow::showContent()
 {
     const QSignalBlocker blocker(mpContent);
     if (auto *line = qobject_cast<QLineEdit *>(mpContent)) {
-        if (line->text() != content()) {
+        // A blank at the end is left to whoever types on behind it.
+        if (line->text() != content() && TextLimit::singleLine(line->text()) != content()) {
             line->setText(content());
             if (mKind == Kind::Address && !line->hasFocus())
                 line->setCursorPosition(0); // the end tells less of an address than its beginning

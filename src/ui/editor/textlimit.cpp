@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <QTextDocument>
 #include <QVector>
+#include <algorithm>
+#include <iterator>
 
 namespace TextLimit {
 
@@ -34,6 +36,14 @@ Check check(const QString &text, Encoding encoding)
     if (encoding == Encoding::TextOutput)
         return {TextCodec::toOutput(text).size(), {}};
     return {TextCodec::toGbk(text).size(), TextCodec::charactersNotInGbk(text)};
+}
+
+QString singleLine(const QString &typed)
+{
+    QString line;
+    std::copy_if(typed.cbegin(), typed.cend(), std::back_inserter(line),
+                 [](QChar character) { return character.category() != QChar::Other_Control; });
+    return line.trimmed();
 }
 
 QString typedText(const QTextDocument &document)

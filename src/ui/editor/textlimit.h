@@ -28,6 +28,10 @@ Check check(const QString &text, Encoding encoding);
 /// ("U+200D"); of more than eight only the first.
 QString nameCharacters(const QString &lacking);
 
+/// What is meant by @p typed in a field of one line: without control characters, which such a field takes
+/// when they are pasted but does not show, and without blanks around it.
+QString singleLine(const QString &typed);
+
 /// Exactly what was typed, lines ended by "\n": the plain text of the toolkit turns no-break spaces into
 /// others.
 QString typedText(const QTextDocument &document);
