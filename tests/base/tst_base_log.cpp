@@ -104,14 +104,14 @@ private slots:
         QCOMPARE(content("application_20261122.log"), QByteArray("2026-11-22T00:00:00.000 [Info] after\n"));
     }
 
-    void warningsAndErrorsAreWrittenAtReturnOtherLinesWithinASecond()
+    void warningsAndErrorsAreWrittenAtReturnOtherLinesSoonAfter()
     {
         Log(LogLevel::Warn, "zero");
         QVERIFY2(today().endsWith("[Warn] zero\n"), today().constData());
         Log(LogLevel::Info, "one");
-        QTRY_VERIFY_WITH_TIMEOUT(today().endsWith("[Info] one\n"), 1000);
-        Log(LogLevel::Debug, "two"); // the writer has gone back to sleep meanwhile
-        QTRY_VERIFY_WITH_TIMEOUT(today().endsWith("[debug] two\n"), 1000);
+        QTRY_VERIFY(today().endsWith("[Info] one\n")); // within a second, on a machine at rest
+        Log(LogLevel::Debug, "two");                   // the writer has gone back to sleep meanwhile
+        QTRY_VERIFY(today().endsWith("[debug] two\n"));
     }
 
     void linesOfSeveralThreadsStayWholeAndInOrder()

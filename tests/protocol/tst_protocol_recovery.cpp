@@ -17,9 +17,9 @@ private slots:
         fixture.post(MD_FUNCTION_CODE_HARDWARE_VERSION);
         QTRY_COMPARE(fixture.messages(), texts({"03"}));
         fakeHid().setPresent(false);
-        QTRY_COMPARE_WITH_TIMEOUT(fixture.events(), texts({"connected", "disconnected"}), 1000);
+        QTRY_COMPARE(fixture.events(), texts({"connected", "disconnected"}));
         fakeHid().setPresent(true);
-        QTRY_COMPARE_WITH_TIMEOUT(fixture.events(), texts({"connected", "disconnected", "connected"}), 1500);
+        QTRY_COMPARE(fixture.events(), texts({"connected", "disconnected", "connected"}));
         QTRY_COMPARE(fixture.messages(), texts({"03", "04"}));
     }
 
@@ -114,7 +114,8 @@ private slots:
             fixture.post(MD_FUNCTION_CODE_SELECT_PAGE, static_cast<quint32>(i));
             QTRY_COMPARE(fixture.linesWith("send request  error").size(), i + 1);
         }
-        QVERIFY2(stopwatch.elapsed() < 1000, "none waits for the next look for the panel");
+        // Five looks are 2500 ms apart in all; a busy machine may take much of that by itself.
+        QVERIFY2(stopwatch.elapsed() < 2000, "none waits for the next look for the panel");
     }
 
     /// The program asks an absent panel for its version every two seconds.

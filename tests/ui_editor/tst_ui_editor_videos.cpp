@@ -61,12 +61,12 @@ public:
     bool begin(const QString &first)
     {
         videos().place(Key, first);
-        return QTest::qWaitFor([this] { return !videos().isBusy(); }) && onPanel() == bytesOf(first);
+        return QTest::qWaitFor([this] { return !videos().isBusy(); }, 20000) && onPanel() == bytesOf(first);
     }
     /// Waits until blocks of a video have been sent.
     bool isSending()
     {
-        return QTest::qWaitFor([this] { return videos().isBusy() && videos().activity()->done > 0; });
+        return QTest::qWaitFor([this] { return videos().isBusy() && videos().activity()->done > 0; }, 20000);
     }
 
     QStringList finished; ///< "key done", "key cancelled" or "key problem"

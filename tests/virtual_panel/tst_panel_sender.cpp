@@ -25,7 +25,8 @@ private slots:
         const ReportSender::Burst burst = sender.lastBurst();
         QCOMPARE(burst.reports, 301);
         QVERIFY2(burst.duration >= 299ms, qPrintable(QString::number(burst.duration.count())));
-        QVERIFY2(burst.duration < 400ms, qPrintable(QString::number(burst.duration.count())));
+        // Twice the pace would be 600 ms; the last report of a busy machine may be late.
+        QVERIFY2(burst.duration < 550ms, qPrintable(QString::number(burst.duration.count())));
     }
 
     void urgentReportsGoFirst()
@@ -50,7 +51,7 @@ private slots:
     void clearDropsWhatWaits()
     {
         std::atomic<int> delivered = 0;
-        ReportSender sender(100ms, [&](const QByteArray &) { ++delivered; });
+        ReportSender sender(300ms, [&](const QByteArray &) { ++delivered; });
         sender.push({"a", "b", "c"});
         QTRY_COMPARE(delivered.load(), 1);
         sender.clear();
