@@ -72,6 +72,7 @@ private:
 class tst_system_roundtrip : public QObject
 {
     Q_OBJECT
+    using Pictures = QMap<QString, QByteArray>; // file name, content
 
 private:
     void startProgram();
@@ -79,8 +80,8 @@ private:
     QString log() const;
     int count(const char *line) const { return log().count(text(line)); }
     QString opened() const { return contentOf(mFolder.filePath(text("opened"))); }
-    QStringList pictures() const;
-    QStringList expectedPictures();
+    Pictures pictures() const;
+    Pictures expectedPictures();
 
     QTemporaryDir mFolder;
     Panel mPanel;
@@ -132,21 +133,32 @@ QString tst_system_roundtrip::log() const
     return all;
 }
 
-QStringList tst_system_roundtrip::pictures() const
+tst_system_roundtrip::Pictures tst_system_roundtrip::pictures() const
 {
-    return QDir(mFolder.filePath(text("data/devConfig/image")))
-        .entryList({text("*.png")}, QDir::Files, QDir::Name);
+    const QDir folder(mFolder.filePath(text("data/devConfig/image")));
+    Pictures pictures;
+    for (const QString &name : folder.entryList({text("*.png")}, QDir::Files)) {
+        QFile file(folder.filePath(name));
+        if (file.open(QIODevice::ReadOnly))
+            pictures.insert(name, file.readAll());
+    }
+    return pictures;
 }
 
-QStringList tst_system_roundtrip::expectedPictures()
+tst_system_roundtrip::Pictures tst_system_roundtrip::expectedPictures()
 {
-    QStringList names;
+    Pictures pictures;
     for (const QJsonValue key : mPanel.json(text("state")).object().value(text("keys")).toArray()) {
         const QJsonArray id = key.toArray();
-        names << text("%1_%2_%3.png").arg(id.at(0).toInt()).arg(id.at(1).toInt()).arg(id.at(2).toInt());
+        QStringList place;
+        for (int i = 0; i < 3; ++i) // layout, page, key
+            place << QString::number(id.at(i).toInt());
+        const QString answer =
+            mPanel.ask(text("picture ") + place.join(QLatin1Char(' '))); // "ok" and the file
+        pictures.insert(place.join(QLatin1Char('_')) + text(".png"),
+                        QByteArray::fromBase64(answer.mid(3).toLatin1()));
     }
-    names.sort();
-    return names;
+    return pictures;
 }
 
 void tst_system_roundtrip::initTestCase()
