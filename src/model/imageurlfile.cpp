@@ -148,8 +148,19 @@ bool movePictures(IFunctionManager &store, std::vector<Item> &items)
     return done;
 }
 
+// Undo may bring it back, and that of a reset all at once: it shall find them, not write them.
+void putAside(const QString &path)
+{
+    QString error;
+    const auto picture = readWholeFile(path, error);
+    const QString kept = picture ? keptPicturePath(*picture) : QString();
+    const bool isMoved = picture && Paths::createPath(keptPictureFolder()) && QFile::rename(path, kept);
+    if (!isMoved) // it is kept already, say
+        QFile::remove(path);
+}
+
 // Pictures of keys that are gone, or that show another one. Only names that this program gives are touched.
-void removeUnusedPictures(const IFunctionManager &store)
+void putAsideUnusedPictures(const IFunctionManager &store)
 {
     static const QRegularExpression pattern(QStringLiteral("^(\\d{1,9})_(\\d{1,9})_(\\d{1,2})\\.png$"));
     QDir folder(Paths::imageFolder());
@@ -161,7 +172,7 @@ void removeUnusedPictures(const IFunctionManager &store)
         const auto record = store.getKeyAttribute(key);
         const bool used = record && QFileInfo(record->customImage).fileName() == name;
         if (!used)
-            folder.remove(name);
+            putAside(folder.filePath(name));
     }
 }
 
@@ -272,7 +283,7 @@ bool saveAllKeyData(IFunctionManager &store)
         writeItem(ini.settings(), item);
     ini->sync();
     if (ini->status() != QSettings::AccessError)
-        removeUnusedPictures(store);
+        putAsideUnusedPictures(store);
     // A file that could not be parsed is kept aside by now, and replaced all the same.
     return moved && ini->status() != QSettings::AccessError;
 }

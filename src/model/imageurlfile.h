@@ -22,7 +22,7 @@ bool writeKeyRecords(const QString &path, const QVector<KeyAttribute> &records);
 
 /// Writes every record of @p store, and puts each custom picture into the image folder under its key's name;
 /// a picture that lay elsewhere is set in the store under its new path. The file is replaced whole, then
-/// pictures that no record uses any more are removed from the folder.
+/// pictures that no record uses any more go to keptPictureFolder().
 /// @return false when a picture or the file could not be written (logged); the rest is written all the same.
 bool saveAllKeyData(IFunctionManager &store);
 

@@ -5,6 +5,7 @@
 #include "model/keyid.h"
 #include "storelogtext.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -42,6 +43,17 @@ void removePagePictures(int layoutId, int pageId)
 {
     for (int keyId = FirstKeyId; keyId <= LastKeyId; ++keyId)
         QFile::remove(Paths::keyPicture(layoutId, pageId, keyId));
+}
+
+QString keptPictureFolder()
+{
+    return Paths::devConfigFolder() + QStringLiteral("/pictures");
+}
+
+QString keptPicturePath(const QByteArray &picture)
+{
+    const QByteArray name = QCryptographicHash::hash(picture, QCryptographicHash::Sha1).toHex();
+    return keptPictureFolder() + QLatin1Char('/') + QString::fromLatin1(name);
 }
 
 bool replacePicture(const QString &path, const QImage &image)

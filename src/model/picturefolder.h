@@ -1,6 +1,7 @@
 /// The folder "devConfig/image" with the pictures that the panel sent, one "%1_%2_%3.png" per key.
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
 #include <QString>
 
@@ -12,6 +13,11 @@ bool emptyPictureFolder();
 
 /// Removes the pictures of one page, for the further pages of a read.
 void removePagePictures(int layoutId, int pageId);
+
+/// "devConfig/pictures": pictures that no saved record names, which undo and paste may bring back. Each is
+/// called by the SHA-1 of its content in hex.
+QString keptPictureFolder();
+QString keptPicturePath(const QByteArray &picture);
 
 /// Saves @p image as PNG under @p path, in place of a file that stands there; a crash leaves one of the two
 /// whole.

@@ -193,6 +193,29 @@ private slots:
         QVERIFY(vorlinmodel::multiActionStore().readActionsByKeyId(1, 1, 3).isEmpty());
     }
 
+    /// A reset takes hundreds of them away: undo shall find them on the disk, and not write them.
+    void undoFindsThePictureOfAKeyThatIsGone()
+    {
+        EditorFixture fixture;
+        KeyEdits &edits = fixture.editor().edits;
+        fixture.store.createKeyAttribute(Key, 3);
+        setPicture(fixture, Key, pictureFile(fixture.path("red.png"), Qt::red));
+        QVERIFY(edits.saveNow());
+        const QByteArray red = testFileContent(fixture.store.getCustomImage(Key));
+        edits.place("Delete"_s, {{Key, {}}});
+        QVERIFY(edits.saveNow());
+        QVERIFY(!QFileInfo::exists(fixture.path("devConfig/image/1_1_3.png")));
+        const QFileInfoList kept = QDir(fixture.path("devConfig/pictures")).entryInfoList(QDir::Files);
+        QCOMPARE(kept.size(), 1);
+        QCOMPARE(testFileContent(kept.first().filePath()), red);
+        edits.undo();
+        QCOMPARE(fixture.store.getCustomImage(Key), kept.first().filePath());
+        QVERIFY(edits.saveNow());
+        fixture.restart();
+        QCOMPARE(testFileContent(fixture.store.getCustomImage(Key)), red);
+        QVERIFY(QDir(fixture.path("devConfig/pictures")).isEmpty());
+    }
+
     void undoBringsThePictureBackThatASavingHasReplaced()
     {
         EditorFixture fixture;

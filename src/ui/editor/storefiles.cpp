@@ -3,10 +3,9 @@
 #include "base/paths.h"
 #include "model/ifunctionmanager.h"
 #include "model/imageurlfile.h"
-#include "model/wholefile.h"
+#include "model/picturefolder.h"
 #include "pendingedits.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 
@@ -14,16 +13,10 @@ namespace Paths = vorlindesk::Paths;
 
 namespace {
 
-/// Pictures that undo, paste and moves brought back, until the next saving puts them under the name of their
-/// key.
-QString pictureFolder()
-{
-    return Paths::devConfigFolder() + QStringLiteral("/pictures");
-}
-
+/// Of the last run, whose undo has gone.
 void removeUnusedPictures(const vorlinmodel::IFunctionManager &store)
 {
-    QDir folder(pictureFolder());
+    QDir folder(vorlinmodel::keptPictureFolder());
     if (!folder.exists())
         return;
     QStringList used;
@@ -136,13 +129,17 @@ void StoreFiles::join()
         mThread.join();
 }
 
+/// Without waiting for the disk, which takes seconds for the pictures of all keys: the file is needed until
+/// the next saving only, which writes another one. What a crash leaves of it is removed at the next start.
 QString StoreFiles::keepPicture(const QByteArray &picture)
 {
-    const QByteArray name = QCryptographicHash::hash(picture, QCryptographicHash::Sha1).toHex();
-    const QString path = pictureFolder() + QLatin1Char('/') + QString::fromLatin1(name);
+    const QString path = vorlinmodel::keptPicturePath(picture);
     if (QFile(path).size() == picture.size())
         return path;
-    QString error;
-    Paths::createPath(pictureFolder());
-    return vorlinmodel::writeWholeFile(path, picture, error) ? path : QString();
+    Paths::createPath(vorlinmodel::keptPictureFolder());
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(picture) == picture.size() && file.flush())
+        return path;
+    file.remove();
+    return {};
 }
