@@ -7,6 +7,8 @@
 #include "support/table.h"
 #include "ui_editor/keyclipboard.h"
 
+#include <future>
+
 Q_DECLARE_METATYPE(KeyState)
 
 using vorlinmodel::AttributeId;
@@ -73,6 +75,21 @@ KeyState stateOf(int fid, const std::function<void(KeyState &)> &change = {})
         change(state);
     return state;
 }
+
+/// Its first saving takes until the disk is ready.
+struct SlowStore : vorlinmodel::FunctionManager
+{
+    bool saveAllKeyData() override
+    {
+        if (++savings == 1)
+            ready.wait_for(std::chrono::seconds(10));
+        return true;
+    }
+
+    std::atomic<int> savings = 0;
+    std::promise<void> disk;
+    std::future<void> ready = disk.get_future();
+};
 
 } // namespace
 
@@ -405,6 +422,25 @@ private slots:
         edits.undo(); // a read can be taken back, too
         QVERIFY(fixture.store.getKeyAttribute(Other));
         QVERIFY(!fixture.store.getKeyAttribute(fresh));
+    }
+
+    void aSlowDiskHoldsNobodyUp()
+    {
+        EditorFixture fixture; // for the folder
+        SlowStore store;
+        PendingEdits pending;
+        StoreFiles files(store, pending);
+        QSignalSpy written(&files, &StoreFiles::sigWritten);
+        files.touch();
+        QTRY_COMPARE(store.savings.load(), 1);
+        files.touch(); // due again while the disk is still busy
+        QTest::qWait(StoreFiles::Rest + 200);
+        QVERIFY(files.isWriting());
+        QCOMPARE(store.savings.load(), 1);
+        store.disk.set_value();
+        QTRY_COMPARE(store.savings.load(), 2); // nothing is forgotten
+        QTRY_COMPARE(written.count(), 2);
+        QVERIFY(!files.isWriting());
     }
 
     void anIncompleteReadRemovesNothing()

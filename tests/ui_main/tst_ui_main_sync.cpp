@@ -1,9 +1,11 @@
 // The main window and the panel: asking for the version, reading the configuration, polling, coming back.
+#include "base/paths.h"
 #include "base/systemsettings.h"
 #include "support/table.h"
 #include "ui_common/messagebox.h"
 #include "ui_editor/editorcontext.h"
 #include "ui_editor/functionconfigwidget.h"
+#include "ui_editor/keywidget.h"
 #include "ui_main/backups.h"
 #include "ui_main/mainframe.h"
 #include "ui_main/waitingspinnerwidget.h"
@@ -11,6 +13,7 @@
 #include "uimainfakes.h"
 
 #include <QtWidgets>
+#include <future>
 #include <thread>
 
 namespace {
@@ -130,6 +133,31 @@ private slots:
         mpWidget = std::make_unique<Widget>(*mpContext, mDesktop);
         QVERIFY(!timer("syncTimer")->isActive());
         QVERIFY(timer("pollTimer")->isActive());
+    }
+
+    /// A read empties the folder with the pictures, which a writing would take for those of keys that are
+    /// gone.
+    void aReadWaitsForTheDiskButTheWindowDoesNot()
+    {
+        std::promise<void> disk;
+        std::promise<void> busy;
+        std::thread slow([&, ready = disk.get_future()] {
+            const vorlindesk::IniFile held(vorlindesk::Paths::imageUrlIni());
+            busy.set_value();
+            ready.wait_for(std::chrono::seconds(10));
+        });
+        busy.get_future().wait();
+        mpWidget->findChild<KeyWidget *>()->takeFunction(5);
+        QTest::qWait(StoreFiles::Rest + 500); // being saved by now
+        mpContext->requests.clear();
+        mpWidget->readConfiguration();
+        receive(PanelMessage::page(1, 1, 0));
+        QCOMPARE(mpContext->requests, QStringList());
+        QVERIFY(isEditable());
+        disk.set_value();
+        slow.join();
+        QTRY_COMPARE(mpContext->requests, ReadRequest);
+        QVERIFY(!isEditable());
     }
 
     void firstVersionStartsTheRead()

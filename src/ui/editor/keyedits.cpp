@@ -64,6 +64,7 @@ KeyEdits::KeyEdits(vorlindesk::IFrameworkContext &context, QObject *parent)
     connect(&mPending, &PendingEdits::sigMarkChanged, this, &KeyEdits::sigMarkChanged);
     connect(&mFiles, &StoreFiles::sigSaveFailed, this,
             [this] { emit sigProblem(tr("The keys could not be saved. Is the disk full?")); });
+    connect(&mFiles, &StoreFiles::sigWritten, this, &KeyEdits::sigSaved);
     if (IProtocolThread *thread = context.protocolThread())
         connectProtocolThread(*thread);
     mIsLoaded = mFiles.load(); // what cannot be read is kept aside, and is in the log

@@ -84,7 +84,7 @@ public:
     void sendPending();
 
     /// Around a read of the panel's configuration, which overwrites the store. Edits that the panel has not
-    /// taken survive it.
+    /// taken survive it. Not while isSaving(), which it would wait for.
     void beginRead();
     /// @p whole: the panel sent all it has, so that keys not in @p received are gone. @p received: every key
     /// of every page that came. A difference that a person would notice becomes a step.
@@ -93,7 +93,8 @@ public:
     /// The panel has just cleared all its keys: one step that takes them away here, too. Undo sends them.
     void takePanelCleared(const QString &text);
 
-    bool saveNow() { return mFiles.saveNow(); } ///< @return false when a file could not be written
+    bool isSaving() const { return mFiles.isWriting(); } ///< sigSaved() will tell of the end
+    bool saveNow() { return mFiles.saveNow(); }          ///< @return false when a file could not be written
     /// False when the records of the last run could not be read: files may belong to keys that this run does
     /// not know.
     bool isLoaded() const { return mIsLoaded; }
@@ -121,6 +122,7 @@ signals:
     void sigStepApplied(const QVector<vorlinmodel::key_id_t> &keys);
     /// Fields take what is typed and not confirmed yet, by a change() of their own.
     void sigCommit();
+    void sigSaved();                                       ///< or failed to be; not by saveNow()
     void sigReadEnded();                                   ///< the store is the person's again
     void sigMarkChanged(const vorlinmodel::key_id_t &key); ///< see pending()
     void sigProblem(const QString &text);                  ///< for the person, in plain words

@@ -111,16 +111,32 @@ bool StoreFiles::saveNow()
 
 void StoreFiles::startSaving()
 {
-    join(); // ended long ago, unless the disk is very slow
+    if (isWriting()) // a slow disk: onWritten() comes back to it
+        return;
+    join(); // has nothing left to do
     mDirty = false;
     const bool pending = mPending.save();
     std::promise<void> written;
     mWritten = written.get_future().share();
     mThread = std::thread([this, pending, written = std::move(written)]() mutable {
-        if (!mStore.saveAllKeyData() || !pending)
-            mHandOver.post([this] { emit sigSaveFailed(); });
+        const bool done = mStore.saveAllKeyData() && pending;
         written.set_value();
+        mHandOver.post([this, done] { onWritten(done); });
     });
+}
+
+bool StoreFiles::isWriting() const
+{
+    return mWritten.valid() && mWritten.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
+}
+
+void StoreFiles::onWritten(bool done)
+{
+    if (mDirty && !mPaused && mHolds == 0)
+        mTimer.start();
+    if (!done)
+        emit sigSaveFailed();
+    emit sigWritten();
 }
 
 void StoreFiles::join()

@@ -27,15 +27,17 @@ public:
     /// Reads records and pending edits. @return false when a file cannot be read (it is kept aside).
     bool load();
     void touch(); ///< something changed: saved after the rest
-    /// Waits for a writing that is under way, and holds back what is due until resume(): the panel is about
-    /// to be read, which empties the folder with the pictures, and a writing meanwhile would remove new ones.
+    /// Holds back what is due until resume(): the panel is about to be read, which empties the folder with
+    /// the pictures, and a writing meanwhile would remove new ones. Waits for one that is under way, so
+    /// whoever must not wait asks isWriting() first.
     void pause();
     void resume(); ///< what was held back is saved after the rest
     /// Holds back what is due until release(), beside pause() and without its wait: a writing that is under
     /// way has ended when the result is ready. For a thread that reads or replaces the files. Calls count.
     std::shared_future<void> hold();
     void release();
-    bool saveNow(); ///< and waits for it. @return false when a file could not be written
+    bool isWriting() const; ///< sigWritten() will tell of the end
+    bool saveNow();         ///< and waits for it. @return false when a file could not be written
 
     /// Writes a picture under a name that its content gives it. @return the path; empty when it could not be
     /// written.
@@ -43,9 +45,11 @@ public:
 
 signals:
     void sigSaveFailed();
+    void sigWritten(); ///< a writing has ended, however; not those of saveNow()
 
 private:
     void startSaving();
+    void onWritten(bool done);
     void stopSaving();
     void join();
 

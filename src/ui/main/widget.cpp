@@ -51,7 +51,7 @@ void Widget::slotTimerSyncOut()
 void Widget::readConfiguration()
 {
     Log(LogLevel::Info, LogText::ReadRequested);
-    if (mpMainFrame->backups().isHolding()) { // the read would change what is backed up or replaced
+    if (areFilesInUse()) {
         mReadWhenReleased = true;
         return;
     }

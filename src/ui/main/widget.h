@@ -89,6 +89,7 @@ private:
     void onPanelCame();
     void onVersion(int code, const QString &text);
     void onPollTimeout();
+    bool areFilesInUse() const;
     bool mustWait(int functionCode);
     void onFilesReleased();
     void watchRead();
@@ -123,7 +124,7 @@ private:
     bool mSoftwareVersionKnown = false;
     bool mReadIncomplete = false;
     bool mReadWhole = false;        ///< the panel sent all it has; not only what it chose to send
-    bool mReadWhenReleased = false; ///< the files are held by the work with a backup
+    bool mReadWhenReleased = false; ///< see areFilesInUse()
     bool mAllSaved = false;
     ReadProgress mProgress;
     bool mEditorReads = false;                    ///< between the editor's beginRead() and endRead()

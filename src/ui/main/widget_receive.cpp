@@ -66,13 +66,21 @@ void Widget::slotDealRecvData(const quint8 *recvData, int nBufferLen)
     });
 }
 
-/// Part of the configuration that a panel sends by itself while a backup is made or takes its place: it is
-/// dropped, and all of it read afterwards.
+/// A read would change what is backed up or replaced, and a saving that is under way what is read: that one
+/// takes seconds on a slow disk, for which the window does not wait. onFilesReleased() tells of the end.
+bool Widget::areFilesInUse() const
+{
+    return mpMainFrame->backups().isHolding() || (!mEditorReads && mpEditor->edits.isSaving());
+}
+
+/// Part of the configuration that a panel sends by itself while the files are in use: it is dropped, and all
+/// of it read afterwards.
 bool Widget::mustWait(int functionCode)
 {
-    const bool isConfiguration = functionCode == code(FunctionCode::MD_FUNCTION_CODE_READ_CONFIGFILE) ||
-                                 functionCode == code(FunctionCode::MD_FUNCTION_CODE_CUSTOMLAYOUT_SET);
-    if (!isConfiguration || !mpMainFrame->backups().isHolding())
+    const bool isPage = functionCode == code(FunctionCode::MD_FUNCTION_CODE_READ_CONFIGFILE);
+    const bool isLayout = functionCode == code(FunctionCode::MD_FUNCTION_CODE_CUSTOMLAYOUT_SET);
+    const bool waits = isPage ? areFilesInUse() : isLayout && mpMainFrame->backups().isHolding();
+    if (!waits)
         return false;
     mReadWhenReleased = true;
     return true;

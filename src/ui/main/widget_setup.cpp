@@ -165,6 +165,7 @@ void Widget::connectFrames()
     connect(mpFuncTabFrame, &FuncTabFrame::sigSelected, mpMainFrame, &MainFrame::select);
     connect(mpMainFrame, &MainFrame::sigPageSelected, mpFuncTabFrame, &FuncTabFrame::showSelected);
     connect(&mpMainFrame->backups(), &Backups::sigReleased, this, &Widget::onFilesReleased);
+    connect(&mpEditor->edits, &KeyEdits::sigSaved, this, &Widget::onFilesReleased);
     connect(mpMainFrame, &MainFrame::sigGalleryChanged, mpIconListFrame, &GalleryFrame::refresh);
     connect(mpIconListFrame, &GalleryFrame::sigItemChosen, this,
             [this](const QString &picture, const QString &video) {
