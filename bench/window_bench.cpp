@@ -1,6 +1,6 @@
 /// Whether the window ever waits: the whole program in this process, the virtual panel's server beside it,
-/// and a watchdog in the event loop while the program reads, converts and sends. Also what a conversion costs
-/// beside the bare tool. Run it through scripts/bench.
+/// and a watchdog in the event loop while the program reads, converts and sends, and while layouts are
+/// edited. Also what a conversion costs beside the bare tool. Run it through scripts/bench.
 #include "app/frameworkcontext.h"
 #include "base/log.h"
 #include "base/paths.h"
@@ -10,11 +10,18 @@
 #include "model/ifunctionmanager.h"
 #include "panel_link/panelserver.h"
 #include "protocol/iprotocolthread.h"
+#include "ui_main/layoutgrid.h"
+#include "ui_main/mainframe.h"
 #include "waitfor.h"
 #include "watchdog.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QDir>
+#include <QFile>
 #include <QImage>
+#include <QKeyEvent>
+#include <QListWidget>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QWidget>
@@ -34,6 +41,7 @@ namespace {
 
 constexpr int Conversions = 10;
 constexpr auto Patience = 180s;
+constexpr int LastLayout = 21; // twenty, as many as there can be
 constexpr QSize KeySize(90, 84);
 const key_id_t VideoKey{1, 1, 1};
 
@@ -137,6 +145,50 @@ void sendVideo(Watchdog &watchdog, vorlindesk::FrameworkContext &context, const 
     report(watchdog, "the transfer of the video");
 }
 
+/// Of fifteen keys each.
+void writeLayouts(const QString &folder)
+{
+    QDir(folder).mkdir(QStringLiteral("devConfig"));
+    QFile file(folder + QStringLiteral("/devConfig/customLayout.ini"));
+    if (!file.open(QIODevice::WriteOnly))
+        return;
+    for (int id = 2; id <= LastLayout; ++id) {
+        file.write(QStringLiteral("[layout_%1]\nname=Layout %1\nnum=15\n").arg(id).toUtf8());
+        for (int key = 1; key <= 15; ++key) {
+            const QString line = QStringLiteral("phyid_%1=%1#%2#%3&\n%1_bitmap=%4\n");
+            file.write(
+                line.arg(key).arg((key - 1) / 5 + 1).arg((key - 1) % 5 + 1).arg(1 << (key - 1)).toUtf8());
+        }
+    }
+}
+
+void editLayouts(Watchdog &watchdog, QWidget &window)
+{
+    auto *frame = window.findChild<MainFrame *>();
+    const auto measure = [&watchdog](const char *what, const auto &act) {
+        watchdog.start();
+        act();
+        waitFor([start = Clock::now()] { return Clock::now() - start > 1s; }); // what follows from it, too
+        report(watchdog, what);
+    };
+    const auto click = [frame](const char *name) {
+        frame->findChild<QAbstractButton *>(QLatin1String(name))->click();
+    };
+    measure("the first opening of the page of the layouts", [&] { frame->select(MainFrame::PanelLayout); });
+    frame->select(MainFrame::FunctionConfiguration);
+    measure("coming back to it", [&] { frame->select(MainFrame::PanelLayout); });
+    auto *list = frame->findChild<QListWidget *>(QStringLiteral("layouts"));
+    measure("choosing a layout", [&] { list->setCurrentRow(LastLayout - 1); });
+    measure("a letter of its title", [&] {
+        QKeyEvent letter(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, QStringLiteral("x"));
+        QCoreApplication::sendEvent(frame->findChild<QWidget *>(QStringLiteral("layoutTitle")), &letter);
+    });
+    frame->findChild<LayoutGrid *>(QStringLiteral("layoutGrid"))->select(3);
+    click("merge");
+    measure("saving it", [&] { click("saveLayout"); });
+    measure("undoing that", [&] { click("layoutUndo"); });
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -146,15 +198,18 @@ int main(int argc, char *argv[])
     PanelServer server(options);
     server.withModel([](PanelModel &model) { model.setState(BenchPanel::full()); });
     const QTemporaryDir folder;
+    writeLayouts(folder.path());
     vorlindesk::FrameworkContext context;
     if (!server.start() || !context.start(argc, argv, folder.path())) {
         std::fprintf(stderr, "cannot start: is the port in VIRTUAL_PANEL_PORT free?\n");
         return 1;
     }
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (widget->objectName() == QLatin1String("mainwindow"))
-            widget->show();
-    }
+    QWidget *window = nullptr;
+    for (QWidget *widget : QApplication::topLevelWidgets())
+        window = widget->objectName() == QLatin1String("mainwindow") ? widget : window;
+    if (!window)
+        return 1;
+    window->show();
     std::atomic<int> pictures = 0;
     vorlindesk::setLogSink([&pictures](vorlindesk::LogLevel, const QString &line) {
         pictures += line.startsWith(QLatin1String("mRecvTotalKeyCount"));
@@ -166,6 +221,7 @@ int main(int argc, char *argv[])
     report(watchdog, "the read-back of 240 pictures");
     vorlindesk::setLogSink({});
     waitFor([start = Clock::now()] { return Clock::now() - start > 5s; }); // the end of the read
+    editLayouts(watchdog, *window);
     const QString video = convertFilm(watchdog, folder.path());
     sendVideo(watchdog, context, video);
     measureConversions(folder.path());

@@ -74,6 +74,18 @@ void removeOwnEntries(QSettings &settings)
     }
 }
 
+/// Those of other layouts, too, since the whole file is written anew.
+void keepTexts(QSettings &settings)
+{
+    for (const QString &key : settings.allKeys()) {
+        const QVariant text = settings.value(key);
+        const QVariant written = vorlindesk::iniText(text.toString());
+        if (text.type() == QVariant::String &&
+            written.type() != QVariant::String) // few: setting takes its time
+            settings.setValue(key, written);
+    }
+}
+
 /// The settings library goes on handing out what it could not write. So a copy is changed, which takes the
 /// place of the file when it is whole.
 bool changeFile(const std::function<void(QSettings &settings)> &change)
@@ -89,9 +101,7 @@ bool changeFile(const std::function<void(QSettings &settings)> &change)
     {
         QSettings settings(copy, QSettings::IniFormat);
         settings.setIniCodec("utf-8");
-        for (const QString &key : settings.allKeys()) // of other layouts, too: the whole file is written anew
-            if (settings.value(key).type() == QVariant::String)
-                settings.setValue(key, vorlindesk::iniText(settings.value(key).toString()));
+        keepTexts(settings);
         change(settings);
         settings.sync();
         if (settings.status() == QSettings::AccessError)
@@ -176,25 +186,32 @@ std::optional<CustomLayout> loadCustomLayout(int layoutId)
     return readCustomLayoutGroup(settings, layoutId).layout;
 }
 
-QStringList customLayoutProblems()
+CustomLayouts loadCustomLayouts()
 {
-    QStringList problems;
+    CustomLayouts all;
     if (!QFile::exists(fileName()))
-        return problems;
-    {
-        IniFile file(fileName());
-        if (file->status() == QSettings::FormatError)
-            problems.append(QCoreApplication::translate(
-                "CustomLayouts", "Some lines cannot be read. The file as it was is kept beside it."));
-        for (const QString &group : file->childGroups()) {
-            const QString problem = customLayoutGroupProblem(group);
-            if (!problem.isEmpty())
-                problems.append(problem);
+        return all;
+    IniFile file(fileName());
+    QSettings &settings = file.settings();
+    if (settings.status() == QSettings::FormatError)
+        all.problems.append(QCoreApplication::translate(
+            "CustomLayouts", "Some lines cannot be read. The file as it was is kept beside it."));
+    QMap<int, QStringList> problems; // in the order of the ids, which is not that of the groups
+    for (const QString &group : settings.childGroups()) {
+        const int layoutId = customLayoutIdOf(group);
+        if (layoutId != 0) {
+            settings.beginGroup(group);
+            const CustomLayoutReading reading = readCustomLayoutGroup(settings, layoutId);
+            settings.endGroup();
+            all.byId.insert(layoutId, reading.layout);
+            problems.insert(layoutId, reading.problems);
+        } else if (const QString problem = customLayoutGroupProblem(group); !problem.isEmpty()) {
+            all.problems.append(problem);
         }
     }
-    for (const int layoutId : customLayoutIds())
-        problems += problemsOf(layoutId);
-    return problems;
+    for (const QStringList &ofLayout : qAsConst(problems))
+        all.problems += ofLayout;
+    return all;
 }
 
 bool saveCustomLayout(const CustomLayout &layout)

@@ -48,8 +48,13 @@ QMap<int, QString> customLayoutNames();
 /// when there is no such group.
 std::optional<CustomLayout> loadCustomLayout(int layoutId);
 
-/// What is wrong in the file, one plain sentence each, naming layout and key. Empty when nothing is.
-QStringList customLayoutProblems();
+struct CustomLayouts
+{
+    QMap<int, CustomLayout> byId; ///< each as loadCustomLayout() reads it
+    QStringList problems; ///< what is wrong in the file, one plain sentence each, naming layout and key
+};
+/// All of the file, in one reading.
+CustomLayouts loadCustomLayouts();
 
 /// Replaces the group of the layout; other groups, and entries of this one that are not ours, stay. When it
 /// has problems the file is copied aside first. @return false, the file as it was, when it cannot be written.

@@ -94,7 +94,7 @@ private slots:
         const QByteArray text = testFileContent("devConfig/customLayout.ini"_s);
         QVERIFY2(text.contains("phyid_1=1#1#1&2#1#2&6#2#1&7#2#2&"), text.constData());
         QVERIFY(text.contains("1_bitmap=99") && text.contains("num=12"));
-        QCOMPARE(customLayoutProblems(), QStringList());
+        QCOMPARE(loadCustomLayouts().problems, QStringList());
     }
 
     void damageIsNamedAndTheRestLoads_data()
@@ -127,8 +127,10 @@ private slots:
         if (lines.contains("1_bitmap=3\n") && !lines.contains("phyid_1"))
             QCOMPARE(loadCustomLayout(4)->keys.at(0).lastPhysical, 2); // of the bitmap
         QCOMPARE(
-            customLayoutProblems(),
+            loadCustomLayouts().problems,
             QStringList({"Group \"layout_0\" is left out: layouts have the numbers 2 to 255."_s, problem}));
+        QCOMPARE(loadCustomLayouts().byId.keys(), (QList<int>{4, 5}));
+        QCOMPARE(loadCustomLayouts().byId.value(4), loadCustomLayout(4));
         QVERIFY(saveCustomLayout(customLayoutOf(5, "whole"_s, LayoutGrouping()))); // not the damaged one
         QVERIFY(!QFile::exists("devConfig/customLayout.ini.before"_s));
         const QByteArray before = testFileContent("devConfig/customLayout.ini"_s);
@@ -143,7 +145,7 @@ private slots:
     {
         const QByteArray text = "[layout_4]\nnum=1\n1_bitmap=1\nphyid_1=1&\n[layout_5\nnum=1\n";
         QVERIFY(writeTestFile("devConfig/customLayout.ini"_s, text));
-        QCOMPARE(customLayoutProblems().value(0),
+        QCOMPARE(loadCustomLayouts().problems.value(0),
                  "Some lines cannot be read. The file as it was is kept beside it."_s);
         QCOMPARE(savedMasks(4), QVector<quint32>{1});
         QVERIFY(saveCustomLayout(customLayoutOf(4, {}, LayoutGrouping())));

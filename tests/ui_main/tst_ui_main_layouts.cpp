@@ -369,6 +369,18 @@ private slots:
         QVERIFY(!choice->isEnabled());
     }
 
+    /// With twenty layouts every reading takes a millisecond, and a letter took twenty.
+    void fileIsNotReadForALetter()
+    {
+        LayoutsFixture f([](auto &) { store(2, "Desk", {}); }, Panel::None);
+        f.list()->setCurrentRow(1);
+        store(3, "Elsewhere", {}); // nobody tells the page
+        QTest::keyClick(f.title(), Qt::Key_X);
+        QCOMPARE(f.names().size(), 2);
+        emit f.editor().layouts.sigLayoutsChanged();
+        QCOMPARE(f.names().size(), 3);
+    }
+
     void whatIsWrongInTheFileIsShown()
     {
         const QByteArray damaged = "[layout_2]\nname=Odd\nnum=2\n1_bitmap=5\n2_bitmap=1000000000\n";

@@ -51,10 +51,7 @@ ConfigurationState captureConfiguration(const vorlinmodel::IFunctionManager &sto
         if (key->record && isVideo(*key->record))
             state.videos.insert(key.key(), hashOf(key->record->defaultImage, watch));
     }
-    for (const int layoutId : vorlinmodel::customLayoutIds()) {
-        if (const auto layout = vorlinmodel::loadCustomLayout(layoutId))
-            state.layouts.insert(layoutId, *layout);
-    }
+    state.layouts = vorlinmodel::loadCustomLayouts().byId;
     return state;
 }
 

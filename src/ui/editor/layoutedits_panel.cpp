@@ -123,12 +123,9 @@ void LayoutEdits::clearForPanel()
         emit sigProblem(tr("The layouts could not be kept aside, so those of this computer stay."));
         return;
     }
-    mUnseen.clear();
-    for (const int layoutId : vorlinmodel::customLayoutIds()) {
-        const auto layout = vorlinmodel::loadCustomLayout(layoutId);
-        if (layout && !mPending.contains(layoutId))
-            mUnseen.insert(layoutId, *layout);
-    }
+    mUnseen = vorlinmodel::loadCustomLayouts().byId;
+    for (const int layoutId : mPending.ids())
+        mUnseen.remove(layoutId);
     mReadRest.start();
 }
 

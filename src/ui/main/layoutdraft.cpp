@@ -135,10 +135,9 @@ void LayoutDraft::set(const Value &value)
     emit sigChanged();
 }
 
-LayoutDraft::Value storedLayout(int layoutId)
+LayoutDraft::Value draftValueOf(const vorlinmodel::CustomLayout *layout)
 {
     LayoutDraft::Value value;
-    const auto layout = vorlinmodel::loadCustomLayout(layoutId);
     if (!layout)
         return value;
     value.name = layout->name;

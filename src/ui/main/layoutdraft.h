@@ -10,7 +10,8 @@
 
 namespace vorlinmodel {
 class IFunctionManager;
-}
+struct CustomLayout;
+} // namespace vorlinmodel
 
 /// Every change is a step of its own history; names that are typed in one go are one.
 class LayoutDraft : public QObject
@@ -65,8 +66,8 @@ private:
     QUndoStack mHistory;
 };
 
-/// The layout as customLayout.ini has it; the standard grid without a name for any other.
-LayoutDraft::Value storedLayout(int layoutId);
+/// @p layout as customLayout.ini has it; the standard grid without a name when there is none.
+LayoutDraft::Value draftValueOf(const vorlinmodel::CustomLayout *layout);
 
 /// Pages (1 to 16) of a layout on which a key has a function, ascending.
 QVector<int> pagesWithKeys(int layoutId, const vorlinmodel::IFunctionManager &store);

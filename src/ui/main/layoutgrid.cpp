@@ -26,10 +26,12 @@ int firstPhysical(quint32 mask)
 
 } // namespace
 
-LayoutGrid::LayoutGrid(EditorContext &context, const LayoutDraft &draft, QWidget *parent)
+LayoutGrid::LayoutGrid(EditorContext &context, const LayoutDraft &draft, StoredLayouts &stored,
+                       QWidget *parent)
     : QWidget(parent)
     , mContext(context)
     , mDraft(draft)
+    , mStored(stored)
 {
     setObjectName(QStringLiteral("layoutGrid"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -43,7 +45,6 @@ LayoutGrid::LayoutGrid(EditorContext &context, const LayoutDraft &draft, QWidget
 
 void LayoutGrid::onDraftChanged()
 {
-    mStored = vorlinmodel::loadCustomLayout(mDraft.layoutId());
     if (mBackgroundPath != mDraft.value().background) {
         mBackgroundPath = mDraft.value().background;
         mBackground = mContext.faces.picture(mBackgroundPath);

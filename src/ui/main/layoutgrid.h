@@ -1,7 +1,6 @@
 /// The keys of a layout, drawn like the panel, and the selection of those that are to be merged or split.
 #pragma once
 
-#include "model/customlayouts.h"
 #include "model/keyface.h"
 #include "model/keyid.h"
 #include "ui_editor/keydescriptor.h"
@@ -11,10 +10,10 @@
 #include <QPoint>
 #include <QVector>
 #include <QWidget>
-#include <optional>
 
 class LayoutDraft;
 class QPainter;
+class StoredLayouts;
 struct EditorContext;
 
 /// Shows the draft. A rubber band selects: the selection grows to whole keys. Selections are masks of
@@ -23,8 +22,8 @@ class LayoutGrid : public QWidget
 {
     Q_OBJECT
 public:
-    /// @p context and @p draft outlive it.
-    LayoutGrid(EditorContext &context, const LayoutDraft &draft, QWidget *parent);
+    /// @p context, @p draft and @p stored outlive it.
+    LayoutGrid(EditorContext &context, const LayoutDraft &draft, StoredLayouts &stored, QWidget *parent);
 
     quint32 selection() const { return mSelection; } ///< 0: none
     void select(quint32 mask);                       ///< and the keys that it touches, whole
@@ -72,7 +71,7 @@ private:
 
     EditorContext &mContext;
     const LayoutDraft &mDraft;
-    std::optional<vorlinmodel::CustomLayout> mStored; ///< what the file has
+    StoredLayouts &mStored;
     QImage mBackground;
     QString mBackgroundPath;
     QPixmap mDrawn; ///< the keys without the selection; null: to be drawn anew

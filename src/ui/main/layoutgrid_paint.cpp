@@ -5,6 +5,7 @@
 #include "model/ifunctionmanager.h"
 #include "model/keypicture.h"
 #include "model/layoutbackground.h"
+#include "storedlayouts.h"
 #include "ui_common/style.h"
 #include "ui_editor/editorcontext.h"
 
@@ -73,8 +74,9 @@ key_id_t LayoutGrid::storedKey(quint32 mask) const
     const quint32 first = mask & (~mask + 1); // its lowest bit
     if (mDraft.layoutId() == StandardLayoutId)
         return {StandardLayoutId, shownPage(), int(qCountTrailingZeroBits(first)) + 1};
-    for (int i = 0; mStored && i < mStored->keys.size(); ++i) {
-        const quint32 stored = mStored->keys.at(i).mask;
+    const vorlinmodel::CustomLayout *layout = mStored.find(mDraft.layoutId());
+    for (int i = 0; layout && i < layout->keys.size(); ++i) {
+        const quint32 stored = layout->keys.at(i).mask;
         if ((stored & (~stored + 1)) == first)
             return {mDraft.layoutId(), shownPage(), i + 1};
     }

@@ -45,7 +45,7 @@ LayoutPage::LayoutPage(EditorContext &context, QWidget *parent)
     , mpCaption(new QLabel(this))
     , mpNotice(new QLabel(this))
     , mpList(new LayoutList(*context.framework.languageManager(), this))
-    , mpGrid(new LayoutGrid(context, mDraft, this))
+    , mpGrid(new LayoutGrid(context, mDraft, mStored, this))
     , mpTools(new LayoutTools(*context.framework.languageManager(), this))
     , mpTitle(new LimitedText(LimitedText::Form::Line, TextLimit::Encoding::Gbk,
                               QStringLiteral("layoutTitle"), this))

@@ -3,6 +3,7 @@
 
 #include "layoutdraft.h"
 #include "model/keyid.h"
+#include "storedlayouts.h"
 
 #include <QFrame>
 
@@ -43,7 +44,7 @@ private:
     QToolButton *addTool(const char *name, const char *icon, const QString &shortcut,
                          void (LayoutPage::*act)());
 
-    void alignDraft(const QVector<int> &ids);
+    void alignDraft();
     void load(int layoutId);
     void showDraft();
     void showList();
@@ -72,6 +73,7 @@ private:
 
     EditorContext &mContext;
     LayoutDraft mDraft;
+    StoredLayouts mStored;
     QString mMessage; ///< of what failed last
     int mHomeLayout = 0;
     bool mConnected = false;

@@ -233,8 +233,8 @@ bool LayoutPage::save()
 /// The layout itself may be there, without its background.
 void LayoutPage::refreshHalfSaved()
 {
-    if (vorlinmodel::loadCustomLayout(mDraft.layoutId()))
-        mDraft.setStored(storedLayout(mDraft.layoutId()));
+    if (const vorlinmodel::CustomLayout *layout = mStored.find(mDraft.layoutId()))
+        mDraft.setStored(draftValueOf(layout));
     refresh();
 }
 

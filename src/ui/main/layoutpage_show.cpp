@@ -17,12 +17,11 @@
 #include <QPushButton>
 #include <QToolButton>
 #include <algorithm>
-#include <optional>
 
 namespace {
 
 /// Keys of a stored layout that lie anywhere on the panel.
-int keyCount(const std::optional<vorlinmodel::CustomLayout> &layout)
+int keyCount(const vorlinmodel::CustomLayout *layout)
 {
     if (!layout)
         return vorlinmodel::LastKeyId;
@@ -40,25 +39,25 @@ QString withShortcut(const QString &text, const QAction &action)
 
 void LayoutPage::refresh()
 {
+    mStored.forget();
     if (mIsSaving) // half of it is not there yet
         return;
-    QVector<int> ids{StandardLayoutId};
-    ids += vorlinmodel::customLayoutIds();
-    alignDraft(ids);
+    alignDraft();
     showList();
     showNotice();
 }
 
 /// The layouts were changed elsewhere: by the history, or by the panel.
-void LayoutPage::alignDraft(const QVector<int> &ids)
+void LayoutPage::alignDraft()
 {
+    const QVector<int> ids = mStored.ids();
     const int id = mDraft.layoutId();
     if (!hasChanges()) {
         load(ids.contains(id) ? id : StandardLayoutId);
     } else if (!ids.contains(id)) {
         mDraft.setGone();
     } else if (!mDraft.isNew()) {
-        mDraft.setStored(storedLayout(id));
+        mDraft.setStored(draftValueOf(mStored.find(id)));
     } else if (const int free = mContext.layouts.freeId()) { // another one has come under its number
         mDraft.start(free, LayoutDraft::Value(mDraft.value()));
     }
@@ -66,7 +65,7 @@ void LayoutPage::alignDraft(const QVector<int> &ids)
 
 void LayoutPage::load(int layoutId)
 {
-    const LayoutDraft::Value stored = storedLayout(layoutId);
+    const LayoutDraft::Value stored = draftValueOf(mStored.find(layoutId));
     const bool isOther = layoutId != mDraft.layoutId();
     mMessage.clear();
     mDraft.load(layoutId, stored);
@@ -96,8 +95,8 @@ void LayoutPage::showDraft()
     mpTitle->showStored(draftName(), false);
     mpBackground->showValue(value, isOwn);
     mpTools->showState(value.grouping, mpGrid->selection(), isOwn);
-    const int keys = mDraft.isChanged() ? value.grouping.masks().size()
-                                        : keyCount(vorlinmodel::loadCustomLayout(mDraft.layoutId()));
+    const int keys =
+        mDraft.isChanged() ? value.grouping.masks().size() : keyCount(mStored.find(mDraft.layoutId()));
     mpTools->setNote(tr("Keys: %1, page %2").arg(keys).arg(mpGrid->shownPage()));
     mpSave->setEnabled(isOwn && mDraft.isChanged() && !mpBackground->isBusy());
     mpShow->setEnabled(!mDraft.isNew());
@@ -107,14 +106,13 @@ void LayoutPage::showDraft()
 
 void LayoutPage::showList()
 {
-    QVector<int> ids{StandardLayoutId};
-    ids += vorlinmodel::customLayoutIds();
+    QVector<int> ids = mStored.ids();
     if (mDraft.layoutId() != 0 && !ids.contains(mDraft.layoutId()))
         ids.append(mDraft.layoutId()); // a new one
     QVector<LayoutEntry> entries;
     for (const int id : qAsConst(ids)) {
         const bool isDraft = id == mDraft.layoutId() && mDraft.isChanged();
-        const auto stored = vorlinmodel::loadCustomLayout(id);
+        const vorlinmodel::CustomLayout *stored = mStored.find(id);
         const QString ownName = isDraft ? mDraft.value().name : stored ? stored->name : QString();
         LayoutEntry entry;
         entry.layoutId = id;
@@ -168,7 +166,7 @@ void LayoutPage::notify(const QString &text)
 void LayoutPage::showNotice()
 {
     constexpr int most = 3; // the keys need the room
-    const QStringList problems = vorlinmodel::customLayoutProblems();
+    const QStringList problems = mStored.problems();
     QStringList lines;
     if (!mMessage.isEmpty())
         lines.append(mMessage);
