@@ -346,6 +346,7 @@ private slots:
         f.list()->setCurrentRow(1);
         QVERIFY(!f.button("useAsHome")->isEnabled() && !f.button("useAsHome")->toolTip().isEmpty());
         f.frame->setConnected(true);
+        QCOMPARE(f.takeRequests().filter("17: "_s), texts({"17: 255"})); // also behind a start
         {
             Boxes boxes(QMessageBox::No);
             f.press("useAsHome");
@@ -362,6 +363,7 @@ private slots:
         f.frame->select(MainFrame::SystemSettings);
         auto *choice = f.child<QComboBox>("homeLayout");
         QCOMPARE(choice->currentText(), "Desk"_s);
+        f.takeRequests();
         QTest::keyClick(choice, Qt::Key_Up);
         QCOMPARE(f.takeRequests().filter("17: "_s), texts({"17: 1", "17: 255"}));
         QCOMPARE(choice->currentText(), "Desk"_s); // until the panel has said so

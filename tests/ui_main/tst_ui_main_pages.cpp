@@ -118,8 +118,8 @@ private slots:
         QCOMPARE(child<QLabel>("brightness")->text(), "80"_s);
         QCOMPARE(child<QLabel>("softwareVersionValue")->text(), "SW 3.4"_s);
         mpContext->requests.clear();
-        open(3); // the panel tells its brightness and its system type only when asked
-        QCOMPARE(mpContext->requests, texts({"16: 255", "18: 255"}));
+        open(3); // the panel tells them only when asked
+        QCOMPARE(mpContext->requests, texts({"17: 255", "16: 255", "18: 255"}));
         child<QPushButton>("openLogFolder")->click();
         QCOMPARE(mDesktop.calls, QStringList("file "_s + vorlindesk::Paths::logFolder()));
     }

@@ -45,7 +45,7 @@ class tst_ui_main_received : public QObject
     vorlinmodel::FunctionManager mStore;
     int mCleared = 0;
 
-    QStringList handle(const QList<QByteArray> &messages)
+    QStringList handle(const QList<QByteArray> &messages, bool answersHomeSetting = false)
     {
         Recorder recorder;
         vorlindesk::HandOver handOver;
@@ -54,7 +54,7 @@ class tst_ui_main_received : public QObject
         };
         ReceivedDataHandler handler(mStore, handOver, recorder, {0, clear});
         for (const QByteArray &message : messages)
-            handler.handle({message, false});
+            handler.handle({message, false, answersHomeSetting});
         handOver.post([&recorder] { recorder.calls << "end"_s; });
         if (!QTest::qWaitFor([&recorder] { return recorder.calls.contains("end"_s); }))
             return {"not handed over"_s};
@@ -120,6 +120,13 @@ private slots:
         QCOMPARE(handle({PanelMessage::message(17, body)}), QStringList("home 2"_s));
         const vorlindesk::SystemSettings::HomeLayoutEntry expected{4, 1, 5, 3};
         QCOMPARE(vorlindesk::SystemSettings::homeLayoutEntry(4), expected);
+
+        // What is set here stays, unless the panel answers that it was set.
+        const QByteArray other = PanelMessage::message(17, QByteArray::fromHex("03 01 04020604"));
+        QCOMPARE(handle({other}), QStringList("home 3"_s));
+        QCOMPARE(vorlindesk::SystemSettings::homeLayoutEntry(4), expected);
+        QCOMPARE(handle({other}, true), QStringList("home 3"_s));
+        QCOMPARE(vorlindesk::SystemSettings::homeLayoutEntry(4).pageId, 6);
     }
 
     void customLayoutsAreClearedOncePerRun()

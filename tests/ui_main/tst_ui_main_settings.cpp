@@ -25,6 +25,7 @@ constexpr int MultipleActions = 4;
 constexpr int Rest = 300; // ms of the slider
 const key_id_t Key{1, 1, 3};
 const key_id_t ListKey{1, 2, 4};
+const QString AskHomeLayout = "11"_s;
 const QString AskBrightness = "10 02 00 00 00 01 00"_s;
 const QString AskSystemType = "12 01 00 00 00 ff"_s;
 const QString ClearPanel = "0f 01 00 00 00 5a"_s;
@@ -47,8 +48,10 @@ public:
             PanelState state = model.state();
             state.keys[{1, 1, 3}].record.functionId = Play;
             state.keys[{1, 5, 5}].record.functionId = Play;
+            state.home = {2, {{3, 1, 4, 1}}};
             model.setState(state);
         });
+        SystemSettings::setHomeLayoutEntries({{3, 1, 9, 1}}); // another page than the panel has
         window = std::make_unique<Widget>(*this, desktop);
         frame().select(MainFrame::SystemSettings);
         window->show();
@@ -170,7 +173,7 @@ private slots:
         QTRY_COMPARE(f.child<QLabel>("brightness")->text(), "255"_s);
         QCOMPARE(f.slider()->value(), 100);
         QTest::qWait(Rest + 100);
-        QCOMPARE(f.panel->messages(), QStringList({AskBrightness, AskSystemType}));
+        QCOMPARE(f.panel->messages(), QStringList({AskHomeLayout, AskBrightness, AskSystemType}));
     }
 
     void movingIsDroppedWhenThePanelGoes()
@@ -193,6 +196,19 @@ private slots:
         QCOMPARE(f.panel->messages(), texts({"12 01 00 00 00 01"}));
         f.frame().showDeviceValue(18, "7"_s);
         QVERIFY(type->currentText().contains("7"_s));
+    }
+
+    void homeLayoutOfThePanelIsKnownWithoutSettingIt()
+    {
+        SettingsFixture f;
+        auto *choice = f.child<QComboBox>("homeLayout");
+        QCOMPARE(choice->currentText(), "Desk"_s);
+        QCOMPARE(SystemSettings::homeLayoutEntry(3).pageId, 9); // where keys lead stays as it is set here
+        const Answers answers({yes});
+        QTest::keyClick(choice, Qt::Key_Up);
+        QTRY_COMPARE(choice->currentIndex(), 0);
+        QCOMPARE(f.panel->state().home.layoutId, 1);
+        QCOMPARE(f.panel->state().home.entries.value(0).pageId, 9);
     }
 
     void clearingIsOnlyDoneOnRequest_data()

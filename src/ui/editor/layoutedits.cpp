@@ -75,8 +75,13 @@ void LayoutEdits::connectProtocolThread(IProtocolThread &thread)
         &thread, &IProtocolThread::sigRequestDone, this,
         [this](const Request &request, RequestOutcome outcome) {
             if (request.functionCode == static_cast<quint32>(RequestKind::MD_FUNCTION_CODE_HOME_LAYOUT) &&
-                request.layoutId != AskForHomeLayout && outcome != RequestOutcome::Sent)
-                mHandOver.post([this] { emit sigProblem(tr("The panel has not taken the home layout.")); });
+                outcome != RequestOutcome::Sent)
+                mHandOver.post([this, isQuery = request.layoutId == AskForHomeLayout] {
+                    if (isQuery)
+                        takeHomeReply(); // there will be none
+                    else
+                        emit sigProblem(tr("The panel has not taken the home layout."));
+                });
             if (request.functionCode !=
                     static_cast<quint32>(RequestKind::MD_FUNCTION_CODE_CUSTOMLAYOUT_SET) &&
                 request.functionCode != static_cast<quint32>(RequestKind::MD_FUNCTION_CODE_CUSTOMLAYOUT_DEL))

@@ -10,6 +10,7 @@
 
 #include <QMap>
 #include <QObject>
+#include <QQueue>
 #include <QTimer>
 #include <QVector>
 #include <optional>
@@ -59,6 +60,10 @@ public:
     void sendPending();
     /// Sends the layout as home layout, then asks for what the panel holds.
     void setHomeLayout(int layoutId);
+    void askForHomeLayout(); ///< only to show it
+    /// The panel has sent its home layout. @return true when that answers setHomeLayout(): then all of it
+    /// counts. Else only the layout does: where keys for child pages lead is what the person has set here.
+    bool takeHomeReply();
 
     /// The file was replaced as a whole: the panel is told of the layouts @p changed.
     void savePending() { mPending.save(); } ///< see PendingLayouts::saveWhole()
@@ -83,6 +88,7 @@ private:
     friend class LayoutFileCommand;
     static constexpr int AskForHomeLayout = 255; ///< in place of a layout id
 
+    void askForHomeLayout(bool isSet);
     void connectProtocolThread(vorlinmodel::IProtocolThread &thread);
     void requestDone(int layoutId, bool taken);
     void post(int layoutId);
@@ -97,5 +103,6 @@ private:
     /// Of ours, that the panel has not sent since clearForPanel().
     QMap<int, vorlinmodel::CustomLayout> mUnseen;
     QTimer mReadRest;
+    QQueue<bool> mHomeQueries; ///< under way; true: of setHomeLayout()
     vorlindesk::HandOver mHandOver;
 };

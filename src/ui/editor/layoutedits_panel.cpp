@@ -104,7 +104,8 @@ void LayoutEdits::sendPending()
 
 void LayoutEdits::replaced(const QVector<int> &changed)
 {
-    linkLost(); // what the panel has sent so far is no reason to remove one of the new layouts
+    mReadRest.stop(); // what the panel has sent so far is no reason to remove one of the new layouts
+    mUnseen.clear();
     savePending();
     for (const int layoutId : changed)
         post(layoutId);
@@ -114,7 +115,24 @@ void LayoutEdits::replaced(const QVector<int> &changed)
 void LayoutEdits::setHomeLayout(int layoutId)
 {
     mEdits.context().sendRequest(RequestKind::MD_FUNCTION_CODE_HOME_LAYOUT, layoutId);
+    askForHomeLayout(true);
+}
+
+void LayoutEdits::askForHomeLayout()
+{
+    askForHomeLayout(false);
+}
+
+/// The panel answers in the order of the questions.
+void LayoutEdits::askForHomeLayout(bool isSet)
+{
+    mHomeQueries.enqueue(isSet);
     mEdits.context().sendRequest(RequestKind::MD_FUNCTION_CODE_HOME_LAYOUT, AskForHomeLayout);
+}
+
+bool LayoutEdits::takeHomeReply()
+{
+    return !mHomeQueries.isEmpty() && mHomeQueries.dequeue();
 }
 
 void LayoutEdits::clearForPanel()
@@ -159,6 +177,7 @@ void LayoutEdits::linkLost()
 {
     mReadRest.stop();
     mUnseen.clear();
+    mHomeQueries.clear();
 }
 
 /// The panel has sent all its layouts.

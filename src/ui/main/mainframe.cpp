@@ -184,10 +184,9 @@ void MainFrame::showCurrentPage()
         mpLayoutPage->refresh();
     if (mCurrentPage == PictureUpload)
         mpPictureUpload->setKey(mpFunctionConfig->currentKey());
-    if (mCurrentPage == SystemSettings) {
+    if (mCurrentPage == SystemSettings)
         mpSystemSettings->refresh(mDeviceValues);
-        askForPanelValues();
-    }
+    askForPanelValues();
     for (int index = FunctionConfiguration; index <= SystemSettings; ++index) {
         if (QWidget *widget = page(index); widget && index != mCurrentPage)
             widget->hide(); // before the other is shown: both at once would widen the window
@@ -196,13 +195,16 @@ void MainFrame::showCurrentPage()
     page(mCurrentPage)->show();
 }
 
-/// The panel reports them only when asked. The home layout is not asked for: the answer would replace where
-/// the child-page keys lead in the settings.
+/// Of the page in view. The panel reports them only when asked.
 void MainFrame::askForPanelValues()
 {
     using vorlinmodel::RequestKind;
     constexpr int query = 255;
     if (!mConnected || isTransferInProgress())
+        return;
+    if (mCurrentPage == PanelLayout || mCurrentPage == SystemSettings)
+        mContext.layouts.askForHomeLayout();
+    if (mCurrentPage != SystemSettings)
         return;
     for (const RequestKind kind :
          {RequestKind::MD_FUNCTION_CODE_LCD_LIGHT, RequestKind::MD_FUNCTION_CODE_SYSTEM_TYPE})
@@ -271,7 +273,7 @@ void MainFrame::setConnected(bool connected)
     mConnected = connected;
     mpBackups->setConnected(connected);
     showHomeLayout();
-    if (came && mCurrentPage == SystemSettings)
+    if (came)
         askForPanelValues();
 }
 

@@ -56,15 +56,15 @@ void ReceivedDataHandler::handle(const ReceivedMessage &message)
     const auto view =
         ApplicationMessage::view(reinterpret_cast<const quint8 *>(message.bytes.constData()), size);
     if (view)
-        dispatch(*view, message.firstPage);
+        dispatch(*view, message);
     Log(LogLevel::Debug, LogText::ReceiveEnd);
 }
 
-void ReceivedDataHandler::dispatch(const View &view, bool firstPage)
+void ReceivedDataHandler::dispatch(const View &view, const ReceivedMessage &message)
 {
     switch (static_cast<FunctionCode>(view.code)) {
     case FunctionCode::MD_FUNCTION_CODE_READ_CONFIGFILE:
-        return handlePage(view, firstPage);
+        return handlePage(view, message.firstPage);
     case FunctionCode::MD_FUNCTION_CODE_KEY_ATTRIBUTE:
         return handleKeyAttribute(view);
     case FunctionCode::MD_FUNCTION_CODE_HARDWARE_VERSION:
@@ -75,7 +75,7 @@ void ReceivedDataHandler::dispatch(const View &view, bool firstPage)
     case FunctionCode::MD_FUNCTION_CODE_LCD_LIGHT:
         return handleLcdLight(view);
     case FunctionCode::MD_FUNCTION_CODE_HOME_LAYOUT:
-        return handleHomeLayout(view);
+        return handleHomeLayout(view, message.answersHomeSetting);
     case FunctionCode::MD_FUNCTION_CODE_SYSTEM_TYPE:
         return handleSystemType(view);
     default:
@@ -142,17 +142,20 @@ void ReceivedDataHandler::handleLcdLight(const View &view)
     postText(view.code, QString::number(view.body[1]));
 }
 
-void ReceivedDataHandler::handleHomeLayout(const View &view)
+/// What a panel holds may be older than what the person has set here, for which nothing is sent at once.
+void ReceivedDataHandler::handleHomeLayout(const View &view, bool answersSetting)
 {
     Log(LogLevel::Info, LogText::HomeLayoutReceived);
     const QByteArray payload(reinterpret_cast<const char *>(view.body), view.bodySize);
     const auto record = HomeLayout::decode(payload);
     if (!record)
         return;
-    QVector<vorlindesk::SystemSettings::HomeLayoutEntry> entries;
-    for (const HomeLayout::Entry &entry : record->entries)
-        entries.append({entry.keyId, entry.layoutId, entry.pageId, entry.sum});
-    vorlindesk::SystemSettings::setHomeLayoutEntries(entries);
+    if (answersSetting || vorlindesk::SystemSettings::homeLayoutEntries().isEmpty()) {
+        QVector<vorlindesk::SystemSettings::HomeLayoutEntry> entries;
+        for (const HomeLayout::Entry &entry : record->entries)
+            entries.append({entry.keyId, entry.layoutId, entry.pageId, entry.sum});
+        vorlindesk::SystemSettings::setHomeLayoutEntries(entries);
+    }
     mHandOver.post([this, layoutId = record->layoutId] { mReceiver.onHomeLayoutReceived(layoutId); });
 }
 

@@ -41,15 +41,16 @@ public:
     virtual void onConfigurationComplete() = 0;
     /// Codes 3 and 4: a version; 16: the brightness; 18: the system type.
     virtual void onTextReceived(int code, const QString &text) = 0;
-    /// The record itself is in system.ini already.
+    /// The entries of the record are in system.ini already, if they count.
     virtual void onHomeLayoutReceived(int layoutId) = 0;
     virtual void onCustomLayoutReceived(const QByteArray &payload) = 0;
 };
 
 struct ReceivedMessage
 {
-    QByteArray bytes;       ///< whole, as the protocol thread put it together
-    bool firstPage = false; ///< the first page since a read was asked for
+    QByteArray bytes;                ///< whole, as the protocol thread put it together
+    bool firstPage = false;          ///< the first page since a read was asked for
+    bool answersHomeSetting = false; ///< a home layout: where its entries lead counts, too
 };
 
 /// Reads no byte beyond the message, whatever its lengths say.
@@ -72,13 +73,13 @@ public:
     void handle(const ReceivedMessage &message);
 
 private:
-    void dispatch(const ApplicationMessage::View &view, bool firstPage);
+    void dispatch(const ApplicationMessage::View &view, const ReceivedMessage &message);
     void handlePage(const ApplicationMessage::View &view, bool firstPage);
     void handleKeyAttribute(const ApplicationMessage::View &view);
     void handleVersion(const ApplicationMessage::View &view);
     void handleCustomLayout(const ApplicationMessage::View &view);
     void handleLcdLight(const ApplicationMessage::View &view);
-    void handleHomeLayout(const ApplicationMessage::View &view);
+    void handleHomeLayout(const ApplicationMessage::View &view, bool answersSetting);
     void handleSystemType(const ApplicationMessage::View &view);
     void postText(int code, const QString &text);
     void postComplete();

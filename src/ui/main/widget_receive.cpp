@@ -54,6 +54,8 @@ void Widget::slotDealRecvData(const quint8 *recvData, int nBufferLen)
         beginEditorRead(); // a panel may also send a page by itself
     } else if (isVersion(functionCode)) {
         onConnectState(true);
+    } else if (functionCode == code(FunctionCode::MD_FUNCTION_CODE_HOME_LAYOUT)) {
+        message.answersHomeSetting = mpEditor->layouts.takeHomeReply();
     }
     if (!mEditorReads) {
         mWorkers.start([this, message] { mpReceivedData->handle(message); });
