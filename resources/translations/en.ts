@@ -649,6 +649,46 @@
         <source>Some lines cannot be read. The file as it was is kept beside it.</source>
         <translation>Some lines cannot be read. The file as it was is kept beside it.</translation>
     </message>
+    <message>
+        <source>Layout %1: %2.</source>
+        <translation>Layout %1: %2.</translation>
+    </message>
+    <message>
+        <source>Layout %1 (%2): %3.</source>
+        <translation>Layout %1 (%2): %3.</translation>
+    </message>
+    <message>
+        <source>the number of its keys is missing</source>
+        <translation>the number of its keys is missing</translation>
+    </message>
+    <message>
+        <source>the number of its keys is &quot;%1&quot;, not 1 to 15</source>
+        <translation>the number of its keys is &quot;%1&quot;, not 1 to 15</translation>
+    </message>
+    <message>
+        <source>key %1 does not name its physical keys, so those of its bitmap count</source>
+        <translation>key %1 does not name its physical keys, so those of its bitmap count</translation>
+    </message>
+    <message>
+        <source>the physical keys of key %1 differ from its bitmap</source>
+        <translation>the physical keys of key %1 differ from its bitmap</translation>
+    </message>
+    <message>
+        <source>key %1 has no bitmap</source>
+        <translation>key %1 has no bitmap</translation>
+    </message>
+    <message>
+        <source>the physical keys of key %1 form no rectangle</source>
+        <translation>the physical keys of key %1 form no rectangle</translation>
+    </message>
+    <message>
+        <source>key %1 overlaps key %2</source>
+        <translation>key %1 overlaps key %2</translation>
+    </message>
+    <message>
+        <source>Group &quot;%1&quot; is left out: layouts have the numbers %2 to %3.</source>
+        <translation>Group &quot;%1&quot; is left out: layouts have the numbers %2 to %3.</translation>
+    </message>
 </context>
 <context>
     <name>EditToolBar</name>
@@ -2440,52 +2480,6 @@ What is on this computer is saved as a backup first. “Undo” in the editor br
     <message>
         <source>Its end was left out.</source>
         <translation>Its end was left out.</translation>
-    </message>
-</context>
-<context>
-    <name>vorlinmodel</name>
-    <message>
-        <source>Group &quot;%1&quot; is left out: layouts have the numbers 2 to 255.</source>
-        <translation>Group &quot;%1&quot; is left out: layouts have the numbers 2 to 255.</translation>
-    </message>
-</context>
-<context>
-    <name>vorlinmodel::GroupReader</name>
-    <message>
-        <source>Layout %1: %2.</source>
-        <translation>Layout %1: %2.</translation>
-    </message>
-    <message>
-        <source>Layout %1 (%2): %3.</source>
-        <translation>Layout %1 (%2): %3.</translation>
-    </message>
-    <message>
-        <source>the number of its keys is missing</source>
-        <translation>the number of its keys is missing</translation>
-    </message>
-    <message>
-        <source>the number of its keys is &quot;%1&quot;, not 1 to 15</source>
-        <translation>the number of its keys is &quot;%1&quot;, not 1 to 15</translation>
-    </message>
-    <message>
-        <source>key %1 does not name its physical keys, so those of its bitmap count</source>
-        <translation>key %1 does not name its physical keys, so those of its bitmap count</translation>
-    </message>
-    <message>
-        <source>the physical keys of key %1 differ from its bitmap</source>
-        <translation>the physical keys of key %1 differ from its bitmap</translation>
-    </message>
-    <message>
-        <source>key %1 has no bitmap</source>
-        <translation>key %1 has no bitmap</translation>
-    </message>
-    <message>
-        <source>the physical keys of key %1 form no rectangle</source>
-        <translation>the physical keys of key %1 form no rectangle</translation>
-    </message>
-    <message>
-        <source>key %1 overlaps key %2</source>
-        <translation>key %1 overlaps key %2</translation>
     </message>
 </context>
 </TS>

@@ -649,6 +649,46 @@
         <source>Some lines cannot be read. The file as it was is kept beside it.</source>
         <translation>有些行无法读取。原文件已保存在旁边。</translation>
     </message>
+    <message>
+        <source>Layout %1: %2.</source>
+        <translation>布局 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Layout %1 (%2): %3.</source>
+        <translation>布局 %1（%2）：%3。</translation>
+    </message>
+    <message>
+        <source>the number of its keys is missing</source>
+        <translation>缺少按键数</translation>
+    </message>
+    <message>
+        <source>the number of its keys is &quot;%1&quot;, not 1 to 15</source>
+        <translation>按键数为“%1”，不在 1 到 15 之间</translation>
+    </message>
+    <message>
+        <source>key %1 does not name its physical keys, so those of its bitmap count</source>
+        <translation>按键 %1 未列出其实体按键，因此以其位图中的按键为准</translation>
+    </message>
+    <message>
+        <source>the physical keys of key %1 differ from its bitmap</source>
+        <translation>按键 %1 的实体按键与其位图不一致</translation>
+    </message>
+    <message>
+        <source>key %1 has no bitmap</source>
+        <translation>按键 %1 没有位图</translation>
+    </message>
+    <message>
+        <source>the physical keys of key %1 form no rectangle</source>
+        <translation>按键 %1 的实体按键未构成矩形</translation>
+    </message>
+    <message>
+        <source>key %1 overlaps key %2</source>
+        <translation>按键 %1 与按键 %2 重叠</translation>
+    </message>
+    <message>
+        <source>Group &quot;%1&quot; is left out: layouts have the numbers %2 to %3.</source>
+        <translation>已忽略组“%1”：布局编号为 %2 到 %3。</translation>
+    </message>
 </context>
 <context>
     <name>EditToolBar</name>
@@ -2440,52 +2480,6 @@ What is on this computer is saved as a backup first. “Undo” in the editor br
     <message>
         <source>Its end was left out.</source>
         <translation>其结尾部分已舍去。</translation>
-    </message>
-</context>
-<context>
-    <name>vorlinmodel</name>
-    <message>
-        <source>Group &quot;%1&quot; is left out: layouts have the numbers 2 to 255.</source>
-        <translation>已忽略组“%1”：布局编号为 2 到 255。</translation>
-    </message>
-</context>
-<context>
-    <name>vorlinmodel::GroupReader</name>
-    <message>
-        <source>Layout %1: %2.</source>
-        <translation>布局 %1：%2。</translation>
-    </message>
-    <message>
-        <source>Layout %1 (%2): %3.</source>
-        <translation>布局 %1（%2）：%3。</translation>
-    </message>
-    <message>
-        <source>the number of its keys is missing</source>
-        <translation>缺少按键数</translation>
-    </message>
-    <message>
-        <source>the number of its keys is &quot;%1&quot;, not 1 to 15</source>
-        <translation>按键数为“%1”，不在 1 到 15 之间</translation>
-    </message>
-    <message>
-        <source>key %1 does not name its physical keys, so those of its bitmap count</source>
-        <translation>按键 %1 未列出其实体按键，因此以其位图中的按键为准</translation>
-    </message>
-    <message>
-        <source>the physical keys of key %1 differ from its bitmap</source>
-        <translation>按键 %1 的实体按键与其位图不一致</translation>
-    </message>
-    <message>
-        <source>key %1 has no bitmap</source>
-        <translation>按键 %1 没有位图</translation>
-    </message>
-    <message>
-        <source>the physical keys of key %1 form no rectangle</source>
-        <translation>按键 %1 的实体按键未构成矩形</translation>
-    </message>
-    <message>
-        <source>key %1 overlaps key %2</source>
-        <translation>按键 %1 与按键 %2 重叠</translation>
     </message>
 </context>
 </TS>

@@ -649,6 +649,46 @@
         <source>Some lines cannot be read. The file as it was is kept beside it.</source>
         <translation>有些行無法讀取。原檔案已保存在旁邊。</translation>
     </message>
+    <message>
+        <source>Layout %1: %2.</source>
+        <translation>版面 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Layout %1 (%2): %3.</source>
+        <translation>版面 %1（%2）：%3。</translation>
+    </message>
+    <message>
+        <source>the number of its keys is missing</source>
+        <translation>缺少按鍵數</translation>
+    </message>
+    <message>
+        <source>the number of its keys is &quot;%1&quot;, not 1 to 15</source>
+        <translation>按鍵數為「%1」，不在 1 到 15 之間</translation>
+    </message>
+    <message>
+        <source>key %1 does not name its physical keys, so those of its bitmap count</source>
+        <translation>按鍵 %1 未列出其實體按鍵，因此以其位元圖中的按鍵為準</translation>
+    </message>
+    <message>
+        <source>the physical keys of key %1 differ from its bitmap</source>
+        <translation>按鍵 %1 的實體按鍵與其位元圖不一致</translation>
+    </message>
+    <message>
+        <source>key %1 has no bitmap</source>
+        <translation>按鍵 %1 沒有位元圖</translation>
+    </message>
+    <message>
+        <source>the physical keys of key %1 form no rectangle</source>
+        <translation>按鍵 %1 的實體按鍵未構成矩形</translation>
+    </message>
+    <message>
+        <source>key %1 overlaps key %2</source>
+        <translation>按鍵 %1 與按鍵 %2 重疊</translation>
+    </message>
+    <message>
+        <source>Group &quot;%1&quot; is left out: layouts have the numbers %2 to %3.</source>
+        <translation>已略過群組「%1」：版面編號為 %2 到 %3。</translation>
+    </message>
 </context>
 <context>
     <name>EditToolBar</name>
@@ -2440,52 +2480,6 @@ What is on this computer is saved as a backup first. “Undo” in the editor br
     <message>
         <source>Its end was left out.</source>
         <translation>其結尾部分已捨去。</translation>
-    </message>
-</context>
-<context>
-    <name>vorlinmodel</name>
-    <message>
-        <source>Group &quot;%1&quot; is left out: layouts have the numbers 2 to 255.</source>
-        <translation>已略過群組「%1」：版面編號為 2 到 255。</translation>
-    </message>
-</context>
-<context>
-    <name>vorlinmodel::GroupReader</name>
-    <message>
-        <source>Layout %1: %2.</source>
-        <translation>版面 %1：%2。</translation>
-    </message>
-    <message>
-        <source>Layout %1 (%2): %3.</source>
-        <translation>版面 %1（%2）：%3。</translation>
-    </message>
-    <message>
-        <source>the number of its keys is missing</source>
-        <translation>缺少按鍵數</translation>
-    </message>
-    <message>
-        <source>the number of its keys is &quot;%1&quot;, not 1 to 15</source>
-        <translation>按鍵數為「%1」，不在 1 到 15 之間</translation>
-    </message>
-    <message>
-        <source>key %1 does not name its physical keys, so those of its bitmap count</source>
-        <translation>按鍵 %1 未列出其實體按鍵，因此以其位元圖中的按鍵為準</translation>
-    </message>
-    <message>
-        <source>the physical keys of key %1 differ from its bitmap</source>
-        <translation>按鍵 %1 的實體按鍵與其位元圖不一致</translation>
-    </message>
-    <message>
-        <source>key %1 has no bitmap</source>
-        <translation>按鍵 %1 沒有位元圖</translation>
-    </message>
-    <message>
-        <source>the physical keys of key %1 form no rectangle</source>
-        <translation>按鍵 %1 的實體按鍵未構成矩形</translation>
-    </message>
-    <message>
-        <source>key %1 overlaps key %2</source>
-        <translation>按鍵 %1 與按鍵 %2 重疊</translation>
     </message>
 </context>
 </TS>

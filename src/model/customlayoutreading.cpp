@@ -15,10 +15,12 @@ namespace {
 
 const QLatin1String GroupPrefix("layout_");
 
-QString tr(const char *text)
+/// A plain function tr() would put its texts into the context of whoever calls it, where nobody looks for
+/// them.
+struct LayoutText
 {
-    return QCoreApplication::translate("CustomLayouts", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(CustomLayouts)
+};
 
 /// A hand-written text with a comma in it is read as a list.
 QString textOf(const QVariant &value)
@@ -73,9 +75,10 @@ private:
     void addProblem(const QString &what)
     {
         const CustomLayout &layout = mReading.layout;
-        mReading.problems.append(layout.name.isEmpty()
-                                     ? tr("Layout %1: %2.").arg(layout.layoutId).arg(what)
-                                     : tr("Layout %1 (%2): %3.").arg(layout.layoutId).arg(layout.name, what));
+        mReading.problems.append(
+            layout.name.isEmpty()
+                ? LayoutText::tr("Layout %1: %2.").arg(layout.layoutId).arg(what)
+                : LayoutText::tr("Layout %1 (%2): %3.").arg(layout.layoutId).arg(layout.name, what));
     }
 
     int readCount()
@@ -85,9 +88,9 @@ private:
         const int count = written.trimmed().toInt(&isNumber);
         mIsCountValid = isNumber && count >= FirstKeyId && count <= LastKeyId;
         if (written.isEmpty())
-            addProblem(tr("the number of its keys is missing"));
+            addProblem(LayoutText::tr("the number of its keys is missing"));
         else if (!mIsCountValid)
-            addProblem(tr("the number of its keys is \"%1\", not 1 to 15").arg(written.left(20)));
+            addProblem(LayoutText::tr("the number of its keys is \"%1\", not 1 to 15").arg(written.left(20)));
         return mIsCountValid ? count : LastKeyId; // else as many as there are
     }
 
@@ -106,10 +109,10 @@ private:
             key.lastPhysical = int(std::bit_width(key.mask));
         }
         if (key.mask != 0 && items.isEmpty())
-            addProblem(
-                tr("key %1 does not name its physical keys, so those of its bitmap count").arg(number));
+            addProblem(LayoutText::tr("key %1 does not name its physical keys, so those of its bitmap count")
+                           .arg(number));
         else if (key.mask != 0 && maskOf(items) != key.mask)
-            addProblem(tr("the physical keys of key %1 differ from its bitmap").arg(number));
+            addProblem(LayoutText::tr("the physical keys of key %1 differ from its bitmap").arg(number));
         mReading.layout.keys.append(key);
     }
 
@@ -120,16 +123,16 @@ private:
         const quint32 mask = bitmap.trimmed().toUInt(&isNumber);
         if (bitmap.isEmpty()) {
             if (mIsCountValid || !hasNoItems) // else the count is what is wrong
-                addProblem(tr("key %1 has no bitmap").arg(number));
+                addProblem(LayoutText::tr("key %1 has no bitmap").arg(number));
             return 0;
         }
         if (!isNumber || !isRectangle(mask)) {
-            addProblem(tr("the physical keys of key %1 form no rectangle").arg(number));
+            addProblem(LayoutText::tr("the physical keys of key %1 form no rectangle").arg(number));
             return 0;
         }
         const int other = overlappedBy(mask);
         if (other != 0) {
-            addProblem(tr("key %1 overlaps key %2").arg(number).arg(other));
+            addProblem(LayoutText::tr("key %1 overlaps key %2").arg(number).arg(other));
             return 0;
         }
         return mask;
@@ -185,7 +188,9 @@ QString customLayoutGroupProblem(const QString &group)
 {
     const bool isMeant = group.startsWith(GroupPrefix, Qt::CaseInsensitive);
     return isMeant && customLayoutIdOf(group) == 0
-               ? tr("Group \"%1\" is left out: layouts have the numbers 2 to 255.").arg(group.left(40))
+               ? LayoutText::tr("Group \"%1\" is left out: layouts have the numbers %2 to %3.")
+                     .arg(group.left(40), QString::number(FirstCustomLayout),
+                          QString::number(LargestCustomLayout))
                : QString();
 }
 

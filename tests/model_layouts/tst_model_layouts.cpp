@@ -128,7 +128,7 @@ private slots:
             QCOMPARE(loadCustomLayout(4)->keys.at(0).lastPhysical, 2); // of the bitmap
         QCOMPARE(
             loadCustomLayouts().problems,
-            QStringList({"Group \"layout_0\" is left out: layouts have the numbers 2 to 255."_s, problem}));
+            QStringList({"Group \"layout_0\" is left out: layouts have the numbers 2 to 254."_s, problem}));
         QCOMPARE(loadCustomLayouts().byId.keys(), (QList<int>{4, 5}));
         QCOMPARE(loadCustomLayouts().byId.value(4), loadCustomLayout(4));
         QVERIFY(saveCustomLayout(customLayoutOf(5, "whole"_s, LayoutGrouping()))); // not the damaged one

@@ -390,7 +390,10 @@ private slots:
             [&damaged](auto &fixture) { writeTestFile(fixture.path("devConfig/customLayout.ini"), damaged); },
             Panel::None);
         const auto *notice = f.child<QLabel>("layoutNotice");
-        QVERIFY(notice->isVisible() && notice->text().contains("Odd"_s));
+        QVERIFY(notice->isVisible() && notice->text().contains("Layout 2 (Odd)"_s));
+        f.language.setLanguage(1);
+        f.frame->retranslate();
+        QVERIFY2(notice->text().contains("布局 2"_s), qPrintable(notice->text()));
         QCOMPARE(testFileContent(f.path("devConfig/customLayout.ini")), damaged);
     }
 };

@@ -210,6 +210,7 @@ void LayoutPage::retranslate()
     mpList->retranslate();
     mpTools->retranslate();
     mpBackground->retranslate();
+    mStored.forget(); // its problems are in the language of before
     showDraft();
     showHistory();
     showNotice();
