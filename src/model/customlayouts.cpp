@@ -229,25 +229,4 @@ bool removeCustomLayout(int layoutId)
            changeFile([layoutId](QSettings &settings) { settings.remove(groupOf(layoutId)); });
 }
 
-bool keepCustomLayoutFile()
-{
-    QString error;
-    if (!QFile::exists(fileName()))
-        return true;
-    const auto bytes = readWholeFile(fileName(), error);
-    const QString aside = fileName() + QStringLiteral(".before");
-    QString copy = aside;
-    for (int number = 2; bytes && QFile::exists(copy); ++number) {
-        if (readWholeFile(copy, error) == bytes)
-            return true;
-        copy = aside + QString::number(number);
-    }
-    return bytes && writeWholeFile(copy, *bytes, error);
-}
-
-QString layoutPictureFolder()
-{
-    return vorlindesk::Paths::devConfigFolder() + QStringLiteral("/layouts");
-}
-
 } // namespace vorlinmodel

@@ -63,8 +63,8 @@ bool saveCustomLayout(const CustomLayout &layout);
 /// Removes the group; the same about problems and failures.
 bool removeCustomLayout(int layoutId);
 
-/// Copies the file aside ("customLayout.ini.before", numbered when another content is kept there already).
-/// @return false when that fails; true also when there is no file.
+/// Copies the file aside ("customLayout.ini.before", then with growing numbers), unless it is as the newest
+/// copy; the newest ten stay. @return false when that fails; true also when there is no file.
 bool keepCustomLayoutFile();
 
 QString layoutPictureFolder(); ///< devConfig + "/layouts"

@@ -198,8 +198,16 @@ private slots:
             QVERIFY(keepCustomLayoutFile());
         }
         QCOMPARE(QDir("devConfig"_s).entryList({"*.before*"_s}),
-                 texts({"customLayout.ini.before", "customLayout.ini.before2"}));
+                 texts({"customLayout.ini.before", "customLayout.ini.before2", "customLayout.ini.before3"}));
         QCOMPARE(testFileContent("devConfig/customLayout.ini.before"_s), QByteArray("[a]\n"));
+        QVERIFY(writeTestFile("devConfig/customLayout.ini.before_mine"_s, "a person's own"));
+        for (int i = 0; i < 10; ++i) { // the newest ten stay
+            QVERIFY(writeTestFile("devConfig/customLayout.ini"_s, QByteArray::number(i)));
+            QVERIFY(keepCustomLayoutFile());
+        }
+        QCOMPARE(QDir("devConfig"_s).entryList({"*.before*"_s}).size(), 11);
+        QVERIFY(!QFile::exists("devConfig/customLayout.ini.before3"_s));
+        QCOMPARE(testFileContent("devConfig/customLayout.ini.before13"_s), QByteArray("9"));
     }
 
     /// Each key of the panel in a colour of its own: a piece shows exactly those of its keys.
