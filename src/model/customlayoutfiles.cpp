@@ -1,4 +1,4 @@
-// Files beside "customLayout.ini".
+// Files beside "customLayout.ini": its copies, and the backgrounds of layouts.
 #include "base/paths.h"
 #include "model/customlayouts.h"
 #include "model/wholefile.h"
@@ -39,6 +39,21 @@ QMap<int, QString> keptCopies()
     return copies;
 }
 
+/// The file and what was kept of it, under whichever name: who goes back to a copy wants its backgrounds,
+/// too.
+std::optional<QByteArray> allLayoutTexts()
+{
+    QString error;
+    auto texts = readWholeFile(vorlindesk::Paths::customLayoutIni(), error);
+    for (const QString &name : devConfig().entryList({QStringLiteral("customLayout.ini.*")}, QDir::Files)) {
+        const auto copy = readWholeFile(devConfig().filePath(name), error);
+        if (!texts || !copy)
+            return std::nullopt;
+        *texts += *copy;
+    }
+    return texts;
+}
+
 } // namespace
 
 bool keepCustomLayoutFile()
@@ -62,6 +77,20 @@ bool keepCustomLayoutFile()
 QString layoutPictureFolder()
 {
     return vorlindesk::Paths::devConfigFolder() + QStringLiteral("/layouts");
+}
+
+void removeUnusedLayoutPictures()
+{
+    static const QRegularExpression own(QStringLiteral("^[0-9a-f]{40}\\.png$")); // see keepBackground()
+    const QDir folder(layoutPictureFolder());
+    const QStringList pictures = folder.entryList(QDir::Files).filter(own);
+    const auto texts = pictures.isEmpty() ? std::nullopt : allLayoutTexts();
+    if (!texts)
+        return;
+    for (const QString &picture : pictures) {
+        if (!texts->contains(picture.toLatin1()))
+            QFile::remove(folder.filePath(picture));
+    }
 }
 
 } // namespace vorlinmodel

@@ -69,4 +69,8 @@ bool keepCustomLayoutFile();
 
 QString layoutPictureFolder(); ///< devConfig + "/layouts"
 
+/// Removes the backgrounds that neither the file nor one of its copies names; none when one of these cannot
+/// be read, or there is no file. Only while nobody can undo his way back to them.
+void removeUnusedLayoutPictures();
+
 } // namespace vorlinmodel

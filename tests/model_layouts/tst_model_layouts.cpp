@@ -210,6 +210,26 @@ private slots:
         QCOMPARE(testFileContent("devConfig/customLayout.ini.before13"_s), QByteArray("9"));
     }
 
+    void backgroundsThatNobodyNamesAreRemoved()
+    {
+        const QString used = QString(40, u'a') + ".png"_s;
+        const QString kept = QString(40, u'b') + ".png"_s;
+        const QString unused = QString(40, u'c') + ".png"_s;
+        for (const QString &name : {used, kept, unused, "photo.png"_s})
+            QVERIFY(writeTestFile("devConfig/layouts/"_s + name, "picture"));
+        QVERIFY(writeTestFile("devConfig/customLayout.ini.before"_s,
+                              "[layout_2]\nbackground=" + kept.toLatin1() + '\n'));
+        removeUnusedLayoutPictures(); // without the file nobody knows
+        QVERIFY(QFile::exists("devConfig/layouts/"_s + unused));
+        CustomLayout layout = customLayoutOf(3, {}, LayoutGrouping());
+        layout.background = used;
+        layout.backgroundPages = {1};
+        QVERIFY(saveCustomLayout(layout));
+        removeUnusedLayoutPictures();
+        QCOMPARE(QDir("devConfig/layouts"_s).entryList(QDir::Files),
+                 QStringList({used, kept, "photo.png"_s}));
+    }
+
     /// Each key of the panel in a colour of its own: a piece shows exactly those of its keys.
     void piecesAreCutAtTheLcds()
     {

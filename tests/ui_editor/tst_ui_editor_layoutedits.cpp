@@ -253,7 +253,10 @@ private slots:
             layout.background = "b.png"_s;
             QVERIFY(vorlinmodel::saveCustomLayout(layout));
         }
+        const QString unused = vorlinmodel::layoutPictureFolder() + "/%1.png"_s.arg(QString(40, u'a'));
+        QVERIFY(writeTestFile(unused, "of a layout that is no more"));
         LayoutEdits &layouts = fixture.editor().layouts;
+        QVERIFY(!QFile::exists(unused));
         QCOMPARE(layouts.save(customLayoutOf(5, "mine"_s, grouping)), QString()); // nobody takes it: pending
         const QByteArray before = testFileContent(vorlindesk::Paths::customLayoutIni());
         QSignalSpy problems(&layouts, &LayoutEdits::sigProblem);

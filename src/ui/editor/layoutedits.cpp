@@ -61,6 +61,7 @@ LayoutEdits::LayoutEdits(KeyEdits &edits, QObject *parent)
     : QObject(parent)
     , mEdits(edits)
 {
+    vorlinmodel::removeUnusedLayoutPictures(); // now, since the history is empty
     mReadRest.setSingleShot(true);
     mReadRest.setInterval(ReadRest);
     connect(&mReadRest, &QTimer::timeout, this, &LayoutEdits::endRead);
