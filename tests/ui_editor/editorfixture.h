@@ -100,6 +100,11 @@ public:
     void hideWaitingDialog() override {}
     QString fontStyle() const override { return "font: 75 10pt \"Arial\";"_s; }
 
+    /// Waits until the pictures that were given to keys have been read.
+    bool picturesArePlaced(int ms = 5000)
+    {
+        return QTest::qWaitFor([this] { return !editor().pictures.isBusy(); }, ms);
+    }
     QString path(const char *relative) const { return mFolder.filePath(QString::fromUtf8(relative)); }
     QStringList takeRequests() { return std::exchange(requests, {}); }
 

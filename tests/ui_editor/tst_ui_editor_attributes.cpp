@@ -454,16 +454,17 @@ private slots:
         Window window(2);
         const QString icon = functionIcon(2);
         const QString red = pictureFile(window.fixture.path("red.png"), Qt::red);
-        const Boxes boxes;
+        QSignalSpy problems(&window.edits(), &KeyEdits::sigProblem);
         window.choose("choosePicture", window.fixture.path("missing.png"));
-        QVERIFY(boxes.texts.value(0).contains("missing.png"_s));
+        QVERIFY(window.fixture.picturesArePlaced());
+        QCOMPARE(problems.value(0).value(0).toString(), "\"missing.png\" cannot be opened."_s);
         QCOMPARE(window.fixture.requests, QStringList());
         vorlindesk::VorlinMimeData entry;
         entry.strData1 = red;
         entry.strData2 = window.fixture.path("film.mp4"); // not for a key that plays none
         entry.store(QString::fromLatin1(DragFormat::FunctionIcon));
         drop(window.find("keyPreview"), entry);
-        QCOMPARE(window.record().customImage, red);
+        QTRY_COMPARE(window.record().customImage, red);
         QCOMPARE(window.fixture.takeRequests(), QStringList({sent(2, 5)}));
         window.click("resetPicture");
         QCOMPARE(window.record().customImage, icon);
@@ -474,7 +475,11 @@ private slots:
         QMimeData file;
         file.setUrls({QUrl::fromLocalFile(pictureFile(window.fixture.path("blue.png"), Qt::blue))});
         QCOMPARE(drop(window.find("keyPreview"), file, Qt::MoveAction), Qt::CopyAction);
-        QCOMPARE(window.record().customImage, window.fixture.path("blue.png"));
+        QTRY_COMPARE(window.record().customImage, window.fixture.path("blue.png"));
+        drop(window.find("keyPreview"), entry);
+        window.click("resetPicture"); // before the picture has been read
+        QVERIFY(window.fixture.picturesArePlaced());
+        QCOMPARE(window.record().customImage, icon);
     }
 
     void chosenVideoIsForTheKeyInView()

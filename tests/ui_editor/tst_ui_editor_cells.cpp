@@ -6,7 +6,6 @@
 #include "support/files.h"
 #include "support/table.h"
 #include "ui_editor/keywidget.h"
-#include "ui_editor/pictureedits.h"
 #include "ui_editor/vorlinmimedata.h"
 
 using vorlinmodel::key_id_t;
@@ -117,6 +116,27 @@ void sized(const QString &path, qint64 size)
     QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(size));
 }
 
+/// Takes many bytes, whatever the format.
+QImage noise(QSize size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    QRandomGenerator random(1);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x)
+            image.setPixel(x, y, random.generate());
+    }
+    return image;
+}
+
+QByteArray bytesOf(const QImage &image, const char *format)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, format);
+    return bytes;
+}
+
 /// Function ids of the panel's page 1: "3:5 4:6".
 QString onPanel(EditorFixture &fixture)
 {
@@ -134,6 +154,7 @@ class CellsTest : public QObject
     Q_OBJECT
     using DragTable = Table<Mime, int, bool, bool>;
     using LosesTable = Table<int, int, QString>;
+    using BadTable = Table<QByteArray, QString>;
     using PicturesTable = Table<int, qint64, QString>;
 
 private slots:
@@ -249,6 +270,8 @@ private slots:
             sized(video, size);
         Cell cell(fixture, Key);
         cell.drop(mime(FunctionIcon, pair(picture, video)));
+        QVERIFY(fixture.picturesArePlaced());
+        cell.updateKeyIcon(); // by the grid in the window
         QCOMPARE(ids(fixture).join(QLatin1Char('|')), sent);
         QCOMPARE(fixture.store.getCustomImage(Key), fid == 0 ? QString() : picture);
         QCOMPARE(fixture.store.getDefaultImage(Key) == video && !video.isEmpty(), fid == 17 && size != -1);
@@ -256,25 +279,78 @@ private slots:
         QCOMPARE(fixture.editor().edits.history().count(), fid == 0 ? 0 : 1);
     }
 
-    /// Decoding takes long: away from the user interface, at once is only what the file says of itself.
+    void badPictures_data()
+    {
+        const BadTable row;
+        row("cut PNG", bytesOf(noise({300, 300}), "PNG").left(5000), "\"p\" is damaged or not complete."_s);
+        row("cut JPEG", bytesOf(noise({300, 300}), "JPG").left(5000), "\"p\" is damaged or not complete."_s);
+        row("16385 pixels", bytesOf(noise({16385, 1}), "PNG"),
+            "\"p\" is too large: a picture may have up to 16384 x 16384 pixels."_s);
+        row("broken in the middle", bytesOf(noise({300, 300}), "PNG").replace(3000, 50, QByteArray(50, 'x')),
+            "\"p\" is damaged or not complete."_s);
+    }
+
+    void badPictures()
+    {
+        const auto [bytes, problem] = BadTable::current();
+        EditorFixture fixture;
+        fixture.store.createKeyAttribute(Key, 5);
+        const QString path = fixture.path("p");
+        QVERIFY(writeTestFile(path, bytes));
+        QSignalSpy problems(&fixture.editor().edits, &KeyEdits::sigProblem);
+        Cell cell(fixture, Key);
+        cell.drop(mime("text/uri-list", QUrl::fromLocalFile(path).toEncoded()));
+        QVERIFY(fixture.picturesArePlaced());
+        QCOMPARE(problems.value(0).value(0).toString(), problem);
+        cell.drop(mime(FunctionIcon, pair(path, {})));
+        QVERIFY(fixture.picturesArePlaced());
+        QCOMPARE(problems.count(), 2);
+        QCOMPARE(fixture.editor().edits.history().count(), 0);
+        QCOMPARE(fixture.requests, QStringList());
+    }
+
+    void onlyTheNewestPictureOfAKeyCounts()
+    {
+        EditorFixture fixture;
+        for (const int kid : {3, 4, 5})
+            fixture.store.createKeyAttribute({1, 1, kid}, 5);
+        const QString red = pictureFile(fixture.path("red.png"), Qt::red);
+        const QString blue = pictureFile(fixture.path("blue.png"), Qt::blue);
+        PicturePlacement &pictures = fixture.editor().pictures;
+        pictures.place(Key, red);
+        pictures.place(Other, red);
+        pictures.place({1, 1, 5}, red);
+        pictures.place(Key, blue);
+        fixture.store.addKeyAttribute({1, 1, 5}, 6);
+        fixture.editor().edits.beginRead();
+        QVERIFY(!fixture.picturesArePlaced(100)); // the read would overwrite it
+        QCOMPARE(fixture.editor().edits.history().count(), 0);
+        fixture.editor().edits.endRead(false, {});
+        QVERIFY(fixture.picturesArePlaced());
+        QCOMPARE(fixture.store.getCustomImage(Key), blue);
+        QCOMPARE(fixture.store.getCustomImage(Other), red);
+        QVERIFY(fixture.store.getCustomImage({1, 1, 5}).isEmpty());
+        QCOMPARE(fixture.editor().edits.history().count(), 2);
+    }
+
+    /// It is read away from the user interface, and the key gets a copy with the pixels that keys need.
     void largePicture()
     {
         EditorFixture fixture;
         fixture.store.createKeyAttribute(Key, 5);
         fixture.store.createKeyAttribute({1, 1, 9}, 6);
         const QString large = pictureFile(fixture.path("large.png"), Qt::red, {3000, 2000});
-        const QString cut = fixture.path("cut.png");
-        QVERIFY(writeTestFile(cut, testFileContent(large).chopped(100)));
         Cell cell(fixture, Key);
-        QVERIFY(!PictureEdits::setPicture(fixture.editor(), Key, cut).isEmpty());
-        QCOMPARE(fixture.editor().edits.history().count(), 0);
         QSignalSpy ready(&fixture.editor().faces, &KeyFaces::sigFaceReady);
         cell.drop(mime(FunctionIcon, pair(large, {})));
-        QCOMPARE(fixture.store.getCustomImage(Key), large);
-        QVERIFY(cell.picture().isNull());
+        QCOMPARE(fixture.store.getCustomImage(Key), QString());
+        QVERIFY(fixture.picturesArePlaced());
+        const QString kept = fixture.store.getCustomImage(Key);
+        QCOMPARE(QImage(kept).size(), QSize(1024, 682));
+        fixture.editor().faces.face(Key);
         QTRY_COMPARE(ready.count(), 1);
         QVERIFY(fixture.editor().faces.shows(Key, ready.at(0).at(0).toString()));
-        QVERIFY(!fixture.editor().faces.shows({1, 1, 9}, large));
+        QVERIFY(!fixture.editor().faces.shows({1, 1, 9}, kept));
         cell.updateKeyIcon(); // by the grid in the window
         QCOMPARE(cell.picture().toImage().pixelColor(45, 42), QColor(Qt::red));
     }
@@ -286,6 +362,7 @@ private slots:
         const QString path = pictureFile(fixture.path("p.bin"), Qt::red);
         const Mime file = mime("text/uri-list", QUrl::fromLocalFile(path).toEncoded());
         QCOMPARE(Cell(fixture, Key).drop(file), Qt::CopyAction);
+        QVERIFY(fixture.picturesArePlaced());
         QCOMPARE(ids(fixture), texts({"5, id 5"}));
         QCOMPARE(fixture.store.getCustomImage(Key), path);
     }

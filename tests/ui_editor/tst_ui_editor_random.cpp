@@ -128,6 +128,7 @@ private:
         data.strData1 = mPictures.at(below(mPictures.size()));
         data.store(QString::fromLatin1(DragFormat::FunctionIcon));
         drop(id, data);
+        (void)mFixture.picturesArePlaced();
     }
 
     void setValue()

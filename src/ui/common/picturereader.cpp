@@ -69,7 +69,23 @@ QString problemOf(vorlinmodel::ConversionError error, const QString &path)
     return vorlinmodel::conversionFailure(error, path).reason;
 }
 
-OpenedPicture opened(const QString &path, int side, const std::atomic<bool> &cancelled)
+QImage cropped(const QString &path, const QRectF &share, QSize target, const std::atomic<bool> &cancelled)
+{
+    PictureSource source(path, cancelled);
+    const QSizeF full = source.size();
+    // No more than what croppedPicture() looks at: a camera's picture takes a gigabyte.
+    const double needed = 2 * std::max(target.width() / (share.width() * full.width()),
+                                       target.height() / (share.height() * full.height()));
+    const double side = std::max(full.width(), full.height()) * std::min(1.0, needed);
+    const QImage picture = source.read(int(std::ceil(side)));
+    const QRectF crop(share.x() * picture.width(), share.y() * picture.height(),
+                      share.width() * picture.width(), share.height() * picture.height());
+    return croppedPicture(picture, crop, target);
+}
+
+} // namespace
+
+OpenedPicture openPicture(const QString &path, int side, const std::atomic<bool> &cancelled)
 {
     OpenedPicture result{.path = path, .view = {}, .size = {}};
     const vorlinmodel::PictureCheck check = vorlinmodel::checkPicture(path);
@@ -87,22 +103,6 @@ OpenedPicture opened(const QString &path, int side, const std::atomic<bool> &can
     return result;
 }
 
-QImage cropped(const QString &path, const QRectF &share, QSize target, const std::atomic<bool> &cancelled)
-{
-    PictureSource source(path, cancelled);
-    const QSizeF full = source.size();
-    // No more than what croppedPicture() looks at: a camera's picture takes a gigabyte.
-    const double needed = 2 * std::max(target.width() / (share.width() * full.width()),
-                                       target.height() / (share.height() * full.height()));
-    const double side = std::max(full.width(), full.height()) * std::min(1.0, needed);
-    const QImage picture = source.read(int(std::ceil(side)));
-    const QRectF crop(share.x() * picture.width(), share.y() * picture.height(),
-                      share.width() * picture.width(), share.height() * picture.height());
-    return croppedPicture(picture, crop, target);
-}
-
-} // namespace
-
 PictureReader::PictureReader(QObject *parent)
     : QObject(parent)
 {}
@@ -110,7 +110,7 @@ PictureReader::PictureReader(QObject *parent)
 void PictureReader::open(const QString &path, int side)
 {
     mTask.start([=, this](const std::atomic<bool> &cancelled) {
-        const OpenedPicture picture = opened(path, side, cancelled);
+        const OpenedPicture picture = openPicture(path, side, cancelled);
         return [this, picture] {
             emit sigOpened(picture);
         };

@@ -7,6 +7,7 @@
 #include <QRectF>
 #include <QSize>
 #include <QString>
+#include <atomic>
 
 /// Plain value.
 struct OpenedPicture
@@ -18,6 +19,11 @@ struct OpenedPicture
     bool video = false;   ///< no picture, but a video
     QString problem = {}; ///< for the person; empty when it is a picture or video
 };
+
+/// Reads the picture @p path whole, with at most @p side pixels a side, on the calling thread. Ends early
+/// when
+/// @p cancelled; the result is of no use then.
+OpenedPicture openPicture(const QString &path, int side, const std::atomic<bool> &cancelled);
 
 /// One picture at a time: a new call takes the place of the one before, of which no signal comes any more.
 /// User-interface thread only.

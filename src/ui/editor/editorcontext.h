@@ -4,6 +4,7 @@
 #include "keyedits.h"
 #include "keyfaces.h"
 #include "layoutedits.h"
+#include "pictureplacement.h"
 #include "videoplacement.h"
 
 #include <QVector>
@@ -31,6 +32,7 @@ struct EditorContext
         , layouts(edits)
         , faces(edits.store())
         , videos(edits)
+        , pictures(edits)
     {}
 
     vorlindesk::IFrameworkContext &framework;
@@ -38,6 +40,7 @@ struct EditorContext
     LayoutEdits layouts;
     KeyFaces faces;
     VideoPlacement videos;
+    PicturePlacement pictures;
     bool childrenForm = false;                   ///< the page in view is a child page
     std::array<ChildPageEntry, 16> childPages{}; ///< by key id, 1 to 15
 

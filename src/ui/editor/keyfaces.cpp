@@ -2,7 +2,6 @@
 
 #include "model/functionids.h"
 #include "model/ifunctionmanager.h"
-#include "model/picturecheck.h"
 #include "ui_common/knownpicture.h"
 #include "videoframes.h"
 
@@ -84,14 +83,6 @@ QImage KeyFaces::picture(const QString &path)
         decodeNext();
     }
     return known ? known->image : QImage();
-}
-
-bool KeyFaces::isPicture(const QString &path)
-{
-    if (!QFileInfo(path).isFile() || !takesLong(path))
-        return !picture(path).isNull();
-    const vorlinmodel::PictureCheck check = vorlinmodel::checkPicture(path);
-    return check.error == vorlinmodel::ConversionError::None && !check.video;
 }
 
 QImage KeyFaces::keep(const QString &path, Decoded decoded)

@@ -35,8 +35,6 @@ public:
     /// A picture from a file or resource; null when it is none or has more than 16384 pixels a side. One that
     /// takes long to decode is null, or as it was before it changed, until sigFaceReady.
     QImage picture(const QString &path);
-    /// @return whether picture() will show something. Does not decode what takes long.
-    bool isPicture(const QString &path);
 
 signals:
     void sigFaceReady(const QString &path); ///< a picture or video that was asked for looks different now

@@ -40,7 +40,8 @@ public:
 
     /// What a function drop does, also used by the function list's double click. @return false when refused.
     bool takeFunction(int nFid);
-    /// What a picture drop does.
+    /// What a picture drop does: a picture is on the key once it has been read (PicturePlacement). A video,
+    /// which may be empty, counts on keys that play videos.
     void takePicture(const QString &picture, const QString &video);
     /// Shows the mark of edits that the panel has not taken, the tool tip and the accessible name.
     void updateMark();
@@ -109,6 +110,7 @@ private:
     void sendValuesThatFollow(const KeyState &before);
     void forgetBelongings(int fid);
     void forgetSteps(int fid);
+    void takeVideo(const QString &picture, const QString &video);
     void setVideo(const QString &video);
     QString spokenFunction() const;
 

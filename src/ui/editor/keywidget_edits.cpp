@@ -48,6 +48,7 @@ bool KeyWidget::setFunction(int nFid)
     }
     if (!store.addKeyAttribute(key_id_, nFid))
         return false;
+    mContext.pictures.cancel(key_id_); // of the function that it had
     forgetBelongings(before.fid());
     if (isOfferedByEditor(nFid)) // the catalogue has no icon for it
         store.setCustomImage(key_id_, functionIcon(nFid));
@@ -76,26 +77,28 @@ void KeyWidget::sendValuesThatFollow(const KeyState &before)
 
 void KeyWidget::takePicture(const QString &picture, const QString &video)
 {
-    if (mFId == vorlinmodel::VIDEO_FID && !video.isEmpty() &&
-        videoKind(video, vorlinmodel::keyPixelSize(key_id_)) == VideoKind::Foreign) {
-        mContext.videos.place(key_id_, video, picture); // which goes on when it is converted
-        Log(LogLevel::Info, EditorLogText::DropPicture, qUtf8Printable(picture));
-        return;
-    }
-    const bool isVideo = mFId == vorlinmodel::VIDEO_FID && !video.isEmpty();
-    if (isVideo)
-        mContext.videos.cancel(key_id_); // an older one would replace it when its conversion ends
-    mContext.edits.change(video.isEmpty() ? tr("Picture") : tr("Video"), {key_id_}, [&] {
-        if (mFId != 0) {
-            if (!picture.isEmpty()) // a video of which no frame is known has none
-                mContext.edits.store().setCustomImage(key_id_, picture);
-            if (!isVideo)
-                mContext.edits.send(key_id_, mFId, AttributeId::Image);
-        }
-        updateKeyIcon();
+    if (mFId != vorlinmodel::VIDEO_FID || video.isEmpty()) {
+        mContext.pictures.place(key_id_, picture); // which goes on when it is read
         if (!video.isEmpty())
-            setVideo(video);
-        Log(LogLevel::Info, EditorLogText::DropPicture, qUtf8Printable(picture));
+            PictureEdits::logVideo(video);
+    } else if (videoKind(video, vorlinmodel::keyPixelSize(key_id_)) == VideoKind::Foreign) {
+        mContext.videos.place(key_id_, video, picture); // which goes on when it is converted
+    } else {
+        takeVideo(picture, video);
+    }
+    Log(LogLevel::Info, EditorLogText::DropPicture, qUtf8Printable(picture));
+}
+
+void KeyWidget::takeVideo(const QString &picture, const QString &video)
+{
+    // Older ones would replace it when they are read or converted.
+    mContext.videos.cancel(key_id_);
+    mContext.pictures.cancel(key_id_);
+    mContext.edits.change(tr("Video"), {key_id_}, [&] {
+        if (!picture.isEmpty()) // a video of which no frame is known has none
+            mContext.edits.store().setCustomImage(key_id_, picture);
+        updateKeyIcon();
+        setVideo(video);
     });
 }
 
@@ -103,8 +106,6 @@ void KeyWidget::setVideo(const QString &video)
 {
     // 0 also of a file that cannot be opened: its path is kept, and sending it says why it fails.
     const qint64 size = PictureEdits::logVideo(video);
-    if (mFId != vorlinmodel::VIDEO_FID)
-        return;
     mContext.edits.store().setCustomVideo(key_id_, video);
     mContext.videos.announce(video);
     const quint32 longest = quint32(std::numeric_limits<int>::max());

@@ -65,20 +65,16 @@ QString videoProblem(const QString &path, QFile &file)
 
 } // namespace
 
-QString PictureEdits::setPicture(EditorContext &context, const key_id_t &key, const QString &path)
+void PictureEdits::setPicture(KeyEdits &edits, const key_id_t &key, const QString &path)
 {
-    vorlinmodel::IFunctionManager &store = context.edits.store();
+    vorlinmodel::IFunctionManager &store = edits.store();
     const auto record = store.getKeyAttribute(key);
     if (!record)
-        return {};
-    if (!context.faces.isPicture(path))
-        return QCoreApplication::translate("PictureEdits", "\"%1\" is not a picture that can be read.")
-            .arg(QFileInfo(path).fileName());
-    context.edits.change(QCoreApplication::translate("PictureEdits", "Picture"), {key}, [&] {
+        return;
+    edits.change(QCoreApplication::translate("PictureEdits", "Picture"), {key}, [&] {
         store.setCustomImage(key, path);
-        context.edits.send(key, record->mFId, AttributeId::Image);
+        edits.send(key, record->mFId, AttributeId::Image);
     });
-    return {};
 }
 
 QString PictureEdits::setVideo(KeyEdits &edits, const key_id_t &key, const QString &path,
@@ -130,6 +126,7 @@ void PictureEdits::resetPicture(EditorContext &context, const key_id_t &key)
     const auto record = store.getKeyAttribute(key);
     if (!record || !canReset(*record))
         return;
+    context.pictures.cancel(key);
     context.edits.change(QCoreApplication::translate("PictureEdits", "Reset the picture"), {key}, [&] {
         store.setKeyAttribute(key, withFunctionIcon(*record));
         context.edits.send(key, record->mFId, AttributeId::Image);

@@ -9,14 +9,15 @@
 class KeyEdits;
 struct EditorContext;
 
-/// Each returns what went wrong, for the person; empty when it is done. Nothing is changed then, as when the
-/// key has no function.
+/// A key without function is left alone.
 namespace PictureEdits {
 
-QString setPicture(EditorContext &context, const vorlinmodel::key_id_t &key, const QString &path);
+/// The file is a picture that has been read whole: PicturePlacement takes others.
+void setPicture(KeyEdits &edits, const vorlinmodel::key_id_t &key, const QString &path);
 
 /// For a key with the video function. The video goes to the panel as it is: VideoPlacement converts others.
 /// @p picture is shown on the screen until the first frame is known; may be empty.
+/// @return what went wrong, for the person; nothing is changed then. Empty when it is done.
 QString setVideo(KeyEdits &edits, const vorlinmodel::key_id_t &key, const QString &path,
                  const QString &picture = {});
 

@@ -7,7 +7,6 @@
 #include "keypreview.h"
 #include "pictureedits.h"
 #include "ui_common/filedialog.h"
-#include "ui_common/messagebox.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -52,7 +51,7 @@ PicturePicker::PicturePicker(EditorContext &context, QWidget *parent)
     connect(mpChoose, &QPushButton::clicked, this, &PicturePicker::choose);
     connect(mpReset, &QPushButton::clicked, this, [this] { PictureEdits::resetPicture(mContext, mKey); });
     connect(mpPreview, &KeyPreview::sigPictureDropped, this,
-            [this](const QString &path) { report(PictureEdits::setPicture(mContext, mKey, path)); });
+            [this](const QString &path) { mContext.pictures.place(mKey, path); });
     connect(
         mpPreview, &KeyPreview::sigVideoDropped, this,
         [this](const QString &path, const QString &picture) { mContext.videos.place(mKey, path, picture); });
@@ -87,11 +86,5 @@ void PicturePicker::choose()
     const vorlinmodel::key_id_t key = mKey; // the panel may bring another one into view meanwhile
     const QString path = FileDialog::openFile(this, texts.Text(SelectPicture), {}, filter);
     if (!path.isEmpty())
-        report(PictureEdits::setPicture(mContext, key, path));
-}
-
-void PicturePicker::report(const QString &problem)
-{
-    if (!problem.isEmpty())
-        MessageBox::warn(this, problem);
+        mContext.pictures.place(key, path);
 }

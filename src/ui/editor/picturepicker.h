@@ -23,7 +23,6 @@ public:
 
 private:
     void choose();
-    void report(const QString &problem);
 
     EditorContext &mContext;
     vorlinmodel::key_id_t mKey;

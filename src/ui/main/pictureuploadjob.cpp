@@ -147,7 +147,9 @@ QString PictureUploadJob::setOnKey(const QString &path)
     // It may have lost its function while the picture was converted.
     if (pictureUploadTarget(mContext, mOrder.key).fid == 0)
         return tr("The key has no function any more.");
-    return PictureEdits::setPicture(mContext, mOrder.key, kept);
+    mContext.pictures.cancel(mOrder.key); // an older one would replace it when it has been read
+    PictureEdits::setPicture(mContext.edits, mOrder.key, kept);
+    return {};
 }
 
 void PictureUploadJob::showPlacement(const vorlinmodel::key_id_t &key, VideoPlacement::Stage stage,
