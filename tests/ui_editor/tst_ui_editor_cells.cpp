@@ -155,6 +155,7 @@ class CellsTest : public QObject
     using DragTable = Table<Mime, int, bool, bool>;
     using LosesTable = Table<int, int, QString>;
     using BadTable = Table<QByteArray, QString>;
+    using FilesTable = Table<int, QString, bool, bool>;
     using PicturesTable = Table<int, qint64, QString>;
 
 private slots:
@@ -365,6 +366,32 @@ private slots:
         QVERIFY(fixture.picturesArePlaced());
         QCOMPARE(ids(fixture), texts({"5, id 5"}));
         QCOMPARE(fixture.store.getCustomImage(Key), path);
+    }
+
+    void filesForVideoKeys_data()
+    {
+        const FilesTable row; // whether they are taken, and by the videos
+        row("film", 17, "film.mp4"_s, true, true);
+        row("film for another key", 5, "film.mp4"_s, false, false);
+        row("animation", 17, "p.gif"_s, true, true);
+        row("animation for another key", 5, "p.gif"_s, true, false);
+        row("picture", 17, "p.png"_s, true, false);
+        row("missing film", 17, "gone.mp4"_s, false, false);
+    }
+
+    void filesForVideoKeys()
+    {
+        const auto [fid, name, isTaken, isVideo] = FilesTable::current();
+        EditorFixture fixture;
+        fixture.store.createKeyAttribute(Key, fid);
+        sized(fixture.path("film.mp4"), 100);
+        QFile::copy(pictureFile(fixture.path("p.png"), Qt::red), fixture.path("p.gif"));
+        const QString path = fixture.path(qPrintable(name));
+        const Mime file = mime("text/uri-list", QUrl::fromLocalFile(path).toEncoded());
+        QCOMPARE(Cell(fixture, Key).drop(file), isTaken ? Qt::CopyAction : Qt::IgnoreAction);
+        QCOMPARE(fixture.editor().videos.isBusy(), isVideo);
+        QVERIFY(fixture.picturesArePlaced());
+        QCOMPARE(fixture.store.getCustomImage(Key), isTaken && !isVideo ? path : QString());
     }
 
     void deleting_data()

@@ -2,6 +2,7 @@
 
 #include "editorcontext.h"
 #include "model/functionids.h"
+#include "pictureedits.h"
 #include "vorlinmimedata.h"
 
 #include <QCoreApplication>
@@ -64,14 +65,16 @@ std::optional<key_id_t> KeyDrag::keyOf(const QMimeData &data)
     return isKey ? std::make_optional(key) : std::nullopt;
 }
 
-QString KeyDrag::pictureFileOf(const QMimeData &data)
+QString KeyDrag::mediaFileOf(const QMimeData &data, bool takesVideo)
 {
     if (!data.hasUrls() || data.urls().size() != 1)
         return {};
     const QString path = data.urls().constFirst().toLocalFile();
-    // The head of the file is enough: this is asked with every move of the mouse.
     if (!QFileInfo(path).isFile())
         return {};
+    if (takesVideo && PictureEdits::isVideoName(path))
+        return path;
+    // The head of the file is enough: this is asked with every move of the mouse.
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     return reader.canRead() ? path : QString();

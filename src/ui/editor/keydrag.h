@@ -20,9 +20,9 @@ void setKey(QMimeData &data, const vorlinmodel::key_id_t &key);
 /// @return the key that is dragged; nothing when the data has none, or numbers that no key has.
 std::optional<vorlinmodel::key_id_t> keyOf(const QMimeData &data);
 
-/// @return the path of the one picture file that is dragged; empty when it is none, several, or cannot be
-/// read.
-QString pictureFileOf(const QMimeData &data);
+/// @return the path of the one file that is dragged, if it is a picture, or with @p takesVideo a video;
+/// empty when it is none, several, or cannot be read.
+QString mediaFileOf(const QMimeData &data, bool takesVideo);
 
 /// Whether the drag copies: with Ctrl, or when its source offers nothing else.
 bool isCopy(const QDropEvent &event);

@@ -105,6 +105,7 @@ private:
     bool accepts(const QDropEvent &event) const;
     void answer(QDropEvent &event) const;
     void dropFunction(QDropEvent &event);
+    void dropFile(QDropEvent &event);
     void startDrag();
     bool setFunction(int nFid);
     void sendValuesThatFollow(const KeyState &before);

@@ -5,6 +5,8 @@
 #include "keydrag.h"
 #include "keypicturelabel.h"
 #include "keywidget.h"
+#include "model/functionids.h"
+#include "pictureedits.h"
 #include "vorlinmimedata.h"
 
 #include <QApplication>
@@ -117,7 +119,7 @@ bool KeyWidget::accepts(const QDropEvent &event) const
             return true;
     }
     // The drag of another program: which buttons are held is its affair.
-    return mFId != 0 && !KeyDrag::pictureFileOf(mime).isEmpty();
+    return mFId != 0 && !KeyDrag::mediaFileOf(mime, mFId == vorlinmodel::VIDEO_FID).isEmpty();
 }
 
 void KeyWidget::answer(QDropEvent &event) const
@@ -164,10 +166,19 @@ void KeyWidget::dropEvent(QDropEvent *event)
     }
     if (const auto source = KeyDrag::keyOf(mime))
         return KeyDrag::dropKey(mContext, *source, key_id_, KeyDrag::isCopy(*event));
-    const QString file = KeyDrag::pictureFileOf(mime);
-    if (mFId != 0 && !file.isEmpty())
-        return takePicture(file, {});
-    event->ignore();
+    dropFile(*event);
+}
+
+void KeyWidget::dropFile(QDropEvent &event)
+{
+    const bool takesVideo = mFId == vorlinmodel::VIDEO_FID;
+    const QString file = KeyDrag::mediaFileOf(*event.mimeData(), takesVideo);
+    if (mFId == 0 || file.isEmpty())
+        return event.ignore();
+    if (takesVideo && PictureEdits::isVideoName(file))
+        mContext.videos.place(key_id_, file); // which says what is wrong with it, too
+    else
+        takePicture(file, {});
 }
 
 void KeyWidget::dropFunction(QDropEvent &event)
