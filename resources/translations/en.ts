@@ -1122,10 +1122,6 @@
         <translation>Function</translation>
     </message>
     <message>
-        <source>Picture</source>
-        <translation>Picture</translation>
-    </message>
-    <message>
         <source>Video</source>
         <translation>Video</translation>
     </message>
@@ -1714,10 +1710,6 @@ What is on this computer is saved as a backup first. “Undo” in the editor br
     <message>
         <source>&quot;%1&quot; has %2 MB. The panel takes videos of up to 10 MB.</source>
         <translation>&quot;%1&quot; has %2 MB. The panel takes videos of up to 10 MB.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a picture that can be read.</source>
-        <translation>&quot;%1&quot; is not a picture that can be read.</translation>
     </message>
     <message>
         <source>Picture</source>

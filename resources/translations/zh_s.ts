@@ -1122,10 +1122,6 @@
         <translation>功能</translation>
     </message>
     <message>
-        <source>Picture</source>
-        <translation>图片</translation>
-    </message>
-    <message>
         <source>Video</source>
         <translation>视频</translation>
     </message>
@@ -1714,10 +1710,6 @@ What is on this computer is saved as a backup first. “Undo” in the editor br
     <message>
         <source>&quot;%1&quot; has %2 MB. The panel takes videos of up to 10 MB.</source>
         <translation>“%1”的大小为 %2 MB。面板最多接受 10 MB 的视频。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a picture that can be read.</source>
-        <translation>“%1”不是可读取的图片。</translation>
     </message>
     <message>
         <source>Picture</source>
