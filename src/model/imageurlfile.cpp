@@ -93,12 +93,10 @@ bool readPicture(Item &item)
 /// decoded within the limits, which is rather kept than lost.
 QImage keptPicture(const QByteArray &bytes)
 {
-    const QImage image = decodePicture(bytes);
-    if (image.isNull())
-        return {};
-    if (image.width() > LargestSide || image.height() > LargestSide)
-        return image.scaled(LargestSide, LargestSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    return bytes.startsWith("\x89PNG") ? QImage() : image;
+    const QImage image = decodeOwnPicture(bytes, LargestSide);
+    // One that was made smaller has a side of that length now.
+    const bool isSmall = image.width() < LargestSide && image.height() < LargestSide;
+    return isSmall && bytes.startsWith("\x89PNG") ? QImage() : image;
 }
 
 bool writePicture(const Item &item)

@@ -20,15 +20,38 @@ constexpr quint32 FirstRow = 0b11111;
 constexpr int MaxForeignSide = 4096; // pixels
 constexpr int MaxOwnSide = 16384;    // pixels; a camera's pictures are above what a panel may send
 
+bool isBeyond(const QSize &size, int side)
+{
+    return size.width() > side || size.height() > side;
+}
+
 /// Reads the picture when it is small enough, which is known before it is decoded: a few bytes can claim
-/// gigabytes.
-QImage readLimited(QImageReader &reader, int maxSide)
+/// gigabytes. One with more than @p side pixels a side is made smaller while it is decoded.
+QImage readLimited(QImageReader &reader, int maxSide, int side)
 {
     const QSize size = reader.size();
-    if (size.isEmpty() || size.width() > maxSide || size.height() > maxSide)
+    if (size.isEmpty() || isBeyond(size, maxSide))
         return {};
+    if (isBeyond(size, side))
+        reader.setScaledSize(size.scaled(side, side, Qt::KeepAspectRatio).expandedTo({1, 1}));
     reader.setAutoTransform(true);
     return reader.read();
+}
+
+QImage decoded(const QByteArray &bytes, int maxSide, int side)
+{
+    // Pixels only: formats that are programs of a kind (vector drawings) have no business in bytes from a
+    // device.
+    static const QList<QByteArray> formats = {"png", "jpg", "jpeg", "bmp", "gif", "webp"};
+    QByteArray copy = bytes;
+    QBuffer buffer(&copy);
+    if (!buffer.open(QIODevice::ReadOnly))
+        return {};
+    QImageReader reader(&buffer);
+    reader.setDecideFormatFromContent(true);
+    if (!formats.contains(reader.format()))
+        return {};
+    return readLimited(reader, maxSide, side);
 }
 
 quint32 maskOf(const key_id_t &key)
@@ -88,7 +111,7 @@ std::optional<QByteArray> encodedKeyPicture(const IFunctionManager &store, const
     if (path.isEmpty())
         return std::nullopt;
     QImageReader reader(path);
-    const QImage image = readLimited(reader, MaxOwnSide);
+    const QImage image = readLimited(reader, MaxOwnSide, MaxOwnSide);
     if (image.isNull())
         return std::nullopt;
     const QImage scaled = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
@@ -101,18 +124,12 @@ std::optional<QByteArray> encodedKeyPicture(const IFunctionManager &store, const
 
 QImage decodePicture(const QByteArray &bytes)
 {
-    // Pixels only: formats that are programs of a kind (vector drawings) have no business in bytes from a
-    // device.
-    static const QList<QByteArray> formats = {"png", "jpg", "jpeg", "bmp", "gif", "webp"};
-    QByteArray copy = bytes;
-    QBuffer buffer(&copy);
-    if (!buffer.open(QIODevice::ReadOnly))
-        return {};
-    QImageReader reader(&buffer);
-    reader.setDecideFormatFromContent(true);
-    if (!formats.contains(reader.format()))
-        return {};
-    return readLimited(reader, MaxForeignSide);
+    return decoded(bytes, MaxForeignSide, MaxForeignSide);
+}
+
+QImage decodeOwnPicture(const QByteArray &bytes, int side)
+{
+    return decoded(bytes, MaxOwnSide, side);
 }
 
 } // namespace vorlinmodel

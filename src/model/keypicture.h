@@ -29,4 +29,8 @@ std::optional<QByteArray> encodedKeyPicture(const IFunctionManager &store, const
 /// Decodes a picture from foreign bytes, with limits: at most 4096 x 4096 pixels. Null when it is none.
 QImage decodePicture(const QByteArray &bytes);
 
+/// Decodes a picture of the person, which a camera may have made: at most 16384 x 16384 pixels. A larger one
+/// than @p side is made smaller while it is decoded. Null when it is none.
+QImage decodeOwnPicture(const QByteArray &bytes, int side);
+
 } // namespace vorlinmodel
