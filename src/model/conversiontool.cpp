@@ -32,6 +32,11 @@ constexpr int PoliteMs = 500;    // ms for the tool to end by itself; both toget
 constexpr int KillMs = 1000;
 constexpr int MaxMessages = 64 * 1024; // bytes kept; a damaged video complains about every frame
 
+QStringList words(const char *text)
+{
+    return QString::fromLatin1(text).split(QLatin1Char(' '));
+}
+
 void end(QProcess &process)
 {
     process.terminate(); // without effect on a Windows program that has no window
@@ -134,6 +139,16 @@ bool saysDiskFull(const ToolOutcome &outcome)
                                          ": Disk quota exceeded"};
     return std::any_of(texts.begin(), texts.end(),
                        [&](const char *text) { return outcome.messages.contains(text); });
+}
+
+QStringList toolInput(const QString &path)
+{
+    return words("-hide_banner -nostdin -protocol_whitelist file -i") << path;
+}
+
+QStringList firstFrameArguments(const QString &path)
+{
+    return toolInput(path) << words("-frames:v 1 -vf scale='min(480,iw)':-2 -f image2pipe -c:v png pipe:1");
 }
 
 ConversionError conversionError(const ToolOutcome &outcome)

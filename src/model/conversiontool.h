@@ -25,6 +25,14 @@ struct ToolCommand
     int timeLimit = ToolTimeLimit; ///< ms
 };
 
+/// The arguments that have the tool read @p path. Files only: a list of addresses that calls itself a film
+/// shall not be fetched.
+QStringList toolInput(const QString &path);
+
+/// The arguments that have it write the first frame of the video @p path to its standard output, as PNG with
+/// at most 480 pixels a row.
+QStringList firstFrameArguments(const QString &path);
+
 /// How a conversion is watched; whatever it refers to outlives the conversion.
 struct ConversionControl
 {

@@ -100,15 +100,9 @@ private:
         return runProcess(command, mControl, reader);
     }
 
-    /// Files only: a list of addresses that calls itself a film shall not be fetched.
-    QStringList input(const QString &path) const
-    {
-        return words("-hide_banner -nostdin -protocol_whitelist file") << QStringLiteral("-i") << path;
-    }
-
     bool inspect()
     {
-        const ToolOutcome outcome = runTool(input(mSource)); // fails, since it is told no output
+        const ToolOutcome outcome = runTool(toolInput(mSource)); // fails, since it is told no output
         if (outcome.end == ToolOutcome::End::NotStarted)
             return fail(conversionFailure(ConversionError::NoTool, mOptions.tool));
         if (outcome.end == ToolOutcome::End::TimedOut || outcome.end == ToolOutcome::End::Cancelled)
@@ -140,7 +134,7 @@ private:
         const qint64 expected = frames * largeFrameBytes(mSettings.size);
         mQuality =
             int(std::clamp<qint64>(BestQuality * expected / LargestFirstPass, BestQuality, WorstQuality));
-        QStringList arguments = input(mSource) << words("-map 0:V:0 -vf") << videoFilters(mSettings);
+        QStringList arguments = toolInput(mSource) << words("-map 0:V:0 -vf") << videoFilters(mSettings);
         if (mSettings.mayCut && mLength)
             arguments << QStringLiteral("-t") << seconds(*mLength);
         return encode(arguments << encoder(mQuality), 0, FirstPassPercent);
@@ -156,7 +150,7 @@ private:
             const double wanted = std::ceil(mQuality * std::pow(excess, 1 / SizeExponent));
             mQuality = int(std::clamp<double>(wanted, std::min(mQuality + step, WorstQuality), WorstQuality));
             step *= 2; // ends soon for pictures that do not shrink with the quality
-            if (!encode(input(master) << encoder(mQuality), FirstPassPercent, 99))
+            if (!encode(toolInput(master) << encoder(mQuality), FirstPassPercent, 99))
                 return false;
         }
         if (candidateSize() <= mSettings.byteLimit)
@@ -172,7 +166,7 @@ private:
     {
         const qint64 bytes = qint64(CutMargin * double(mSettings.byteLimit));
         mCut = true;
-        return encode(input(mCandidate) << words("-c copy -fs") << QString::number(bytes) << container(),
+        return encode(toolInput(mCandidate) << words("-c copy -fs") << QString::number(bytes) << container(),
                       FirstPassPercent, 99);
     }
 

@@ -380,6 +380,14 @@ private slots:
         QVERIFY(outputs().isEmpty());
     }
 
+    /// The option counts for the input that it stands before, and for nothing else.
+    void firstFramesComeFromFilesAlone()
+    {
+        const QString arguments = firstFrameArguments(u("a.mp4")).join(QLatin1Char(' '));
+        QVERIFY(arguments.contains(u(" -protocol_whitelist file -i a.mp4 -frames:v 1 ")));
+        QVERIFY(arguments.endsWith(u(" pipe:1")));
+    }
+
     void queueReportsInOrder()
     {
         if (!toolMakesFilms())

@@ -16,12 +16,8 @@ constexpr char DurationText[] = "video-duration-ms";
 
 ToolCommand frameCommand(const QString &tool, const QString &path)
 {
-    const QString words = QStringLiteral("-nostdin -hide_banner -i %1 -frames:v 1 -vf "
-                                         "scale='min(480,iw)':-2 -f image2pipe -c:v png pipe:1");
-    QStringList arguments = words.split(QLatin1Char(' '));
-    arguments.replace(arguments.indexOf(QStringLiteral("%1")), path);
     return {.tool = tool,
-            .arguments = arguments,
+            .arguments = firstFrameArguments(path),
             .line = QStringLiteral("first frame of ") + path,
             .timeLimit = TimeLimit};
 }

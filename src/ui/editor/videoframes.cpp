@@ -2,6 +2,7 @@
 
 #include "base/log.h"
 #include "base/paths.h"
+#include "model/conversiontool.h"
 
 #include <QFileInfo>
 #include <QProcess>
@@ -13,24 +14,6 @@ using vorlindesk::LogLevel;
 namespace {
 
 constexpr int TimeLimit = 10000; // ms
-
-QStringList toolArguments(const QString &path)
-{
-    return {QStringLiteral("-nostdin"),
-            QStringLiteral("-v"),
-            QStringLiteral("error"),
-            QStringLiteral("-i"),
-            path,
-            QStringLiteral("-frames:v"),
-            QStringLiteral("1"),
-            QStringLiteral("-vf"),
-            QStringLiteral("scale='min(480,iw)':-2"),
-            QStringLiteral("-f"),
-            QStringLiteral("image2pipe"),
-            QStringLiteral("-c:v"),
-            QStringLiteral("png"),
-            QStringLiteral("pipe:1")};
-}
 
 } // namespace
 
@@ -74,7 +57,9 @@ void VideoFrames::startNext()
             finish();
     });
     QTimer::singleShot(TimeLimit, mpTool, &QProcess::kill);
-    mpTool->start(vorlindesk::Paths::ffmpegTool(), toolArguments(mWaiting.first()));
+    mpTool->start(vorlindesk::Paths::ffmpegTool(),
+                  QStringList{QStringLiteral("-v"), QStringLiteral("error")} +
+                      vorlinmodel::firstFrameArguments(mWaiting.first()));
 }
 
 void VideoFrames::finish()
