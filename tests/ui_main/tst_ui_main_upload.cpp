@@ -305,6 +305,33 @@ private slots:
         QCOMPARE(galleryFiles(), QStringList("a.avi"_s));
     }
 
+    void drops_data()
+    {
+        QTest::addColumn<QString>("url");
+        QTest::addColumn<bool>("image");
+        QTest::addColumn<bool>("taken");
+        QTest::newRow("link") << "http://example.org/a.png" << false << false;
+        QTest::newRow("link with its picture") << "http://example.org/a.png" << true << true;
+        QTest::newRow("file") << "file:///a.png" << false << true;
+        QTest::newRow("text") << "" << false << false;
+    }
+
+    void drops()
+    {
+        QFETCH(QString, url);
+        QFETCH(bool, image);
+        QFETCH(bool, taken);
+        QMimeData data;
+        data.setText("a"_s);
+        if (!url.isEmpty())
+            data.setUrls({QUrl(url)});
+        if (image)
+            data.setImageData(twoColours({50, 40}));
+        QDragEnterEvent event(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(mpPage.get(), &event);
+        QCOMPARE(event.isAccepted(), taken);
+    }
+
     void pastedPictureIsTaken()
     {
         auto *data = new QMimeData; // goes to the clipboard

@@ -54,6 +54,12 @@ void PictureUploadPage::paste()
     take(*QApplication::clipboard()->mimeData());
 }
 
+/// A link that is dragged from a browser names no file, and often brings its picture along.
+bool PictureUploadPage::takes(const QMimeData &given)
+{
+    return given.hasImage() || !fileOf(given).isEmpty();
+}
+
 void PictureUploadPage::take(const QMimeData &given)
 {
     if (mJob.isBusy())

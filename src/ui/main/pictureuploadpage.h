@@ -44,6 +44,7 @@ private:
 
     void ask();
     void paste();
+    static bool takes(const QMimeData &given);
     void take(const QMimeData &given);
     void takeImage(const QImage &image);
     void showPicture(const OpenedPicture &picture);

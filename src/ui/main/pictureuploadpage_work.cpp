@@ -11,7 +11,6 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QUrl>
 
 void PictureUploadPage::start(const vorlinmodel::key_id_t &key)
 {
@@ -63,7 +62,7 @@ QString PictureUploadPage::doneText(const PictureUploadOutcome &outcome) const
 
 void PictureUploadPage::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (mJob.isBusy() || (!event->mimeData()->hasImage() && event->mimeData()->urls().isEmpty()))
+    if (mJob.isBusy() || !takes(*event->mimeData()))
         return;
     event->setDropAction(Qt::CopyAction); // a file manager whose files were "moved" here would delete them
     event->accept();
