@@ -80,8 +80,8 @@ void keepTexts(QSettings &settings)
     for (const QString &key : settings.allKeys()) {
         const QVariant text = settings.value(key);
         const QVariant written = vorlindesk::iniText(text.toString());
-        if (text.type() == QVariant::String &&
-            written.type() != QVariant::String) // few: setting takes its time
+        // Only those that need it: setting each of them anew takes longer than all the rest.
+        if (text.type() == QVariant::String && written.type() != QVariant::String)
             settings.setValue(key, written);
     }
 }
