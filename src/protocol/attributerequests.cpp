@@ -2,6 +2,7 @@
 
 #include "base/log.h"
 #include "logtext.h"
+#include "model/functionids.h"
 #include "model/ifunctionmanager.h"
 #include "model/keypicture.h"
 #include "model/wholefile.h"
@@ -104,11 +105,24 @@ void writeFunctionId(const Write &write)
     write.context.functions.note(write.key, sent ? fid : WrittenFunctions::Unknown);
 }
 
-/// The store has moved on since the panel got its function: the request that brings the new one waits in the
-/// queue, and behind it the one with this content. Until then it would be read as what it is not.
+AttributeId textAttribute(int fid)
+{
+    switch (fid) {
+    case TEXT_OUTPUT_FID:
+        return AttributeId::TextOutput;
+    case KEY_COMBINATION_FID:
+        return AttributeId::KeyCombination;
+    default:
+        return AttributeId::AppOrUrl;
+    }
+}
+
+/// The store has moved on since the panel got its function, or since the request was posted: one that brings
+/// the new content waits in the queue. Until then this one would be read as what it is not.
 bool isAheadOfFunction(const Write &write)
 {
-    return write.context.functions.differs(write.key, write.record->mFId);
+    return write.context.functions.differs(write.key, write.record->mFId) ||
+           static_cast<AttributeId>(write.request.attributeId) != textAttribute(write.record->mFId);
 }
 
 void writeAppOrUrl(const Write &write)

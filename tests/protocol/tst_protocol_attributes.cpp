@@ -103,6 +103,26 @@ private slots:
                                                 "07 02 00 00 00 01 01"}));
     }
 
+    /// The key got another function after they were posted: the panel would take one text for another.
+    void onlyTheTextOfTheFunctionIsSent()
+    {
+        ThreadFixture fixture;
+        const quint32 functions[] = {vorlinmodel::OPEN_WEB_FID, vorlinmodel::TEXT_OUTPUT_FID,
+                                     vorlinmodel::KEY_COMBINATION_FID};
+        for (quint32 kid = 1; kid <= 3; ++kid) {
+            const vorlinmodel::key_id_t key{1, 2, int(kid)};
+            fixture.store.createKeyAttribute(key, int(functions[kid - 1]));
+            fixture.store.setUrlOrPath(key, "a"_s);
+            for (const quint32 id : {11U, 14U, 17U})
+                fixture.post(MD_FUNCTION_CODE_KEY_ATTRIBUTE, 1, 2, kid, 0, id);
+        }
+        fixture.post(MD_FUNCTION_CODE_SELECT_PAGE, 1, 1);
+        fixture.thread.start();
+        QTRY_COMPARE(fixture.messages(),
+                     texts({"01 06 00 00 00 01 02 01 0b 01 61", "01 07 00 00 00 01 02 02 0b 02 61 00",
+                            "01 08 00 00 00 01 02 03 0e 00 00 00 00", "07 02 00 00 00 01 01"}));
+    }
+
     void actionListIsSentInOrder()
     {
         ThreadFixture fixture;

@@ -114,7 +114,7 @@ private slots:
             fixture.post(MD_FUNCTION_CODE_SELECT_PAGE, static_cast<quint32>(i));
             QTRY_COMPARE(fixture.linesWith("send request  error").size(), i + 1);
         }
-        // Five looks are 2500 ms apart in all; a busy machine may take much of that by itself.
+        // Five waits for the next look would take 2500 ms; a busy machine may take much of that by itself.
         QVERIFY2(stopwatch.elapsed() < 2000, "none waits for the next look for the panel");
     }
 
