@@ -22,8 +22,8 @@ std::optional<QByteArray> readWholeFile(const QString &path, QString &error, qin
 bool writeWholeFile(const QString &path, const QByteArray &bytes, QString &error,
                     const BackupWatch &watch = {});
 
-/// Renames a file or a folder, never by copying it; on Windows it is tried for up to 2 s. @return false with the
-/// reason in @p error.
+/// Renames a file or a folder, never by copying it; on Windows it is tried for up to 2 s. @return false with
+/// the reason in @p error.
 bool renameWhole(const QString &from, const QString &to, QString &error);
 
 } // namespace vorlinmodel
