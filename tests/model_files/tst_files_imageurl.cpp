@@ -68,16 +68,16 @@ private slots:
         store.setCustomImage({1, 1, 1}, image("1_1_2.png")); // two keys have changed places
         store.setCustomImage({1, 1, 2}, image("1_1_1.png"));
         store.setCustomImage({1, 1, 3}, mpFixture->path("photo.jpg"));
-        QVERIFY(writeTestFile(mpFixture->path("5000.jpg"), picture({5000, 2500}, Qt::green, "JPG")));
-        QVERIFY(writeTestFile(mpFixture->path("5000.png"), picture({50, 5000}, Qt::green)));
+        QVERIFY(writeTestFile(mpFixture->path("5000.jpg"), picture({5000, 10}, Qt::green, "JPG")));
+        QVERIFY(writeTestFile(mpFixture->path("5000.png"), picture({10, 5000}, Qt::green)));
         store.setCustomImage({1, 1, 4}, mpFixture->path("5000.jpg"));
         store.setCustomImage({1, 1, 5}, mpFixture->path("5000.png"));
         QVERIFY(saveAllKeyData(store));
         QCOMPARE(testFileContent(image("1_1_1.png")), blue);
         QCOMPARE(testFileContent(image("1_1_2.png")), red);
         QCOMPARE(QImage(image("1_1_3.png"), "PNG").size(), QSize(10, 10));
-        QCOMPARE(QImage(image("1_1_4.png"), "PNG").size(), QSize(1024, 512));
-        QCOMPARE(QImage(image("1_1_5.png"), "PNG").size(), QSize(10, 1024));
+        QCOMPARE(QImage(image("1_1_4.png"), "PNG").size(), QSize(1024, 2));
+        QCOMPARE(QImage(image("1_1_5.png"), "PNG").size(), QSize(2, 1024));
         QCOMPARE(store.getCustomImage({1, 1, 3}), image("1_1_3.png"));
         // By name alone, so that the folder can move.
         QVERIFY(testFileContent(ini()).contains("customImage=1_1_2.png"));
