@@ -583,12 +583,15 @@ private slots:
         BackupsFixture f(Panel::None);
         f.fill();
         auto *timer = f.backups().findChild<QTimer *>("idleTimer"_s);
-        timer->setInterval(0);
+        QSignalSpy looked(timer, &QTimer::timeout);
         f.frame->setReading(true);
         f.backups().startAutomatic();
+        timer->setInterval(0);
+        QTRY_VERIFY(!looked.isEmpty());
         QTest::qWait(50);
         QCOMPARE(Profiles::list({}).size(), 0); // not while the panel is read
         f.frame->setReading(false);
+        timer->setInterval(0);
         QTRY_COMPARE(f.list()->topLevelItemCount(), 1);
         QCOMPARE(f.list()->topLevelItem(0)->text(2), "automatic"_s);
         QVERIFY(!timer->isActive());
