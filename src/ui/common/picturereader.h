@@ -21,8 +21,7 @@ struct OpenedPicture
 };
 
 /// Reads the picture @p path whole, with at most @p side pixels a side, on the calling thread. Ends early
-/// when
-/// @p cancelled; the result is of no use then.
+/// when @p cancelled; the result is of no use then.
 OpenedPicture openPicture(const QString &path, int side, const std::atomic<bool> &cancelled);
 
 /// One picture at a time: a new call takes the place of the one before, of which no signal comes any more.
